@@ -1,0 +1,206 @@
+// A simulated client: a character, a world of objects, a clock, chat windows, an options view, surfaces.
+//
+// Set its state freely; raise its events when the plug-in is to hear of it. It gives the plug-in what the framework would
+// give, through the host's interfaces, and never reaches into the plug-in.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "adapters/sim/Calls.h"
+#include "adapters/sim/Clock.h"
+#include "host/Plugin.h"
+
+namespace ombrel {
+class APluginCore;
+}
+
+namespace ombrel::sim {
+
+class SimHooks;
+class SimWorld;
+class SimCharacter;
+class SimEcho;
+class SimSpells;
+class SimHotkeys;
+class SimRenderService;
+class SimView;
+
+// The character's sheet.
+struct Sheet {
+    std::string Server = "Frostfell";
+    std::string Name = "Aldra";
+    host::Id Character = 0x50000A01;
+    std::int32_t Level = 1;
+    std::int32_t Health = 0, Stamina = 0, Mana = 0;
+    std::map<std::int32_t, std::int32_t> Vital;
+    std::int32_t Vitae = 0;
+    std::int32_t Followers = 0;
+    std::int32_t AllegianceSize = 0;
+    std::map<std::int32_t, std::int32_t> Skill;
+    std::map<std::int32_t, std::int32_t> Augmentation;
+};
+
+// An enchantment with the moment at which it ends.
+struct ActiveEnchantment {
+    std::int32_t SpellID = 0;
+    std::int32_t Family = 0;
+    std::int32_t permanent = 0;              // TimeRemaining of one that doesn't end: 0 or less
+    std::optional<std::int64_t> ends;        // session milliseconds
+};
+
+// An object of the world.
+struct Object {
+    host::Id id = 0;
+    std::string Name;
+    std::optional<std::string> ShortName;  // Name where it is not given
+    std::int32_t Type = 0;
+    std::optional<host::Id> Container;     // falls back to the wielder
+    std::optional<host::Position> Coordinates;
+    std::int32_t LastIdTime = 0;
+    std::int32_t HasIdData = 0;
+    std::map<std::int32_t, std::int32_t> Long;
+    std::map<std::int32_t, double> Double;
+    std::map<std::int32_t, bool> Bool;
+    std::map<std::int32_t, std::string> String;
+    bool valid = true;
+};
+
+// What the hooks answer.
+struct HookState {
+    host::Id CurrentSelection = 0;
+    bool ChatState = false;
+    std::int32_t BusyState = 0;
+    std::int32_t PointerState = 0;
+    std::int32_t CombatMode = 1;
+    host::Id ReferenceContainer = 0;
+    host::Rect Region3D{0, 0, 1024, 768};
+};
+
+struct VendorState {
+    bool open = false;
+    float SellRate = 1.0f;
+    std::vector<host::Id> items;
+};
+
+// The system under the client.
+struct SystemState {
+    host::TimeZone zone;
+    std::string documents, common_data, plugin_folder;
+    std::uint32_t documents_status = 0, common_data_status = 0;
+    std::set<std::int32_t> keys_down, keys_toggled;
+    host::Point cursor;
+};
+
+class Client {
+public:
+    Client();
+    ~Client();
+    Client(const Client&) = delete;
+    Client& operator=(const Client&) = delete;
+
+    // State. Changing it raises no event.
+    Sheet sheet;
+    std::vector<ActiveEnchantment> enchantments;
+    HookState hooks;
+    VendorState vendor;
+    SystemState system;
+    std::map<std::string, std::int32_t> key_map;     // actions of the client to key codes
+    std::set<std::string> missing_services;          // "World", "Spells", ...
+    std::set<std::string> known_hotkeys;
+    bool hotkeys_available = true;
+    bool render_available = true;
+    bool reacts = false;                              // the world answers by itself
+
+    void LoadSpells(const std::string& tsv_path);     // throws std::runtime_error with the reason
+    bool spells_available = true;
+
+    Object& object(host::Id id);                      // created at the end of the world's order when it is new
+    const Object* FindObject(host::Id id) const;
+    void RemoveObject(host::Id id);
+    const std::vector<std::shared_ptr<Object>>& objects() const { return objects_; }
+
+    Clock clock;
+    Calls calls;
+
+    // The plug-in. `Start` makes the plug-in object and initializes it; a client without one raises events into nothing.
+    void Start();
+    void Initialize();   // once more, on the same object
+    void Terminate();
+    APluginCore* plugin() { return plugin_.get(); }
+    SimView* view() { return view_; }  // the options view, once the plug-in has loaded it
+
+    // Events, each as the framework raises it. Those with a result return what the plug-in set.
+    void LoginComplete();
+    void Logoff(std::int32_t kind);
+    void ChangeVital(std::int32_t vital, std::int32_t value);  // the character's value changes first
+    void ChangeEnchantments(std::int32_t change, const host::Enchantment& enchantment);
+    void ChangePortalMode(std::int32_t mode);
+    void Death(const std::string& text);
+    bool ChatText(const std::string& text, std::int32_t color, std::int32_t window);  // also shows what is not eaten
+    bool ChatParser(const std::string& text);
+    bool StatusText(const std::string& text);
+    bool ChatClick(const std::string& text, host::Id id);
+    void ContainerOpened(host::Id id);
+    void ObjectSelected(host::Id id);                           // the selection changes first
+    void RegionChanged(const host::Rect& region);               // the region changes first
+    void CreateObject(host::Id id);
+    void ChangeObject(host::Id id, std::int32_t change);
+    void MoveObject(host::Id id);
+    void ReleaseObject(host::Id id);
+    void EchoServer(const host::Message& message);
+    void EchoClient(const host::Message& message);
+    bool WindowMessage(std::int32_t message, std::int32_t x, std::int32_t y, std::int32_t wParam, std::int32_t lParam);
+    bool Hotkey(const std::string& name);
+    void DeviceLost();
+
+    // What a player reads: every line that reached a window, ours and the client's own.
+    struct ChatLine {
+        std::int64_t at;
+        std::string text;
+        std::int32_t color;
+        std::int32_t window;
+        bool from_plugin;
+    };
+    std::function<void(const ChatLine& line)> chat_listener;
+
+private:
+    friend class SimHooks;
+    friend class SimWorld;
+    friend class SimCharacter;
+    friend class SimEcho;
+    friend class SimSpells;
+    friend class SimHotkeys;
+    friend class SimRenderService;
+    friend class SimView;
+    friend class SimSite;
+    friend class SimDecal;
+    friend class SimPlatform;
+
+    std::vector<std::shared_ptr<Object>> objects_;  // in the order of creation
+    std::unique_ptr<host::Platform> platform_;
+    std::unique_ptr<host::PluginSite> site_;
+    std::unique_ptr<APluginCore> plugin_;
+    host::IWindowsMessageSink* sink_ = nullptr;
+
+    // The plug-in's own copies of the client's objects, while it holds them.
+    std::vector<SimHooks*> hooks_objects_;
+    std::vector<SimWorld*> world_objects_;
+    std::vector<SimCharacter*> character_objects_;
+    std::vector<SimEcho*> echo_objects_;
+    std::vector<SimSpells*> spell_objects_;
+    std::vector<SimHotkeys*> hotkey_objects_;
+    std::vector<SimRenderService*> render_objects_;
+    SimView* view_ = nullptr;
+};
+
+}  // namespace ombrel::sim

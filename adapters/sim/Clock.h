@@ -1,0 +1,72 @@
+// The virtual clock: it moves only when it is told to, and fires what falls due on the way.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/Timer.h"
+
+namespace ombrel::sim {
+
+using std::chrono::milliseconds;
+
+class Clock;
+class Calls;
+
+// A timer on the virtual clock. It leaves the clock when it goes.
+class SimTimer final : public host::Timer {
+public:
+    SimTimer(Clock& clock, Calls& calls, std::string name);
+    ~SimTimer() override;
+
+    void Start(std::int32_t milliseconds) override;
+    void Stop() override;
+    bool Running() const override { return running_; }
+
+    const std::string& name() const { return name_; }
+    std::int32_t interval() const { return interval_; }
+
+private:
+    friend class Clock;
+    Clock& clock_;
+    Calls& calls_;
+    std::string name_;
+    bool running_ = false;
+    std::int32_t interval_ = 0;
+    std::int64_t due_ = 0;       // milliseconds since the session's start
+    std::uint64_t started_ = 0;  // order of the last start: timers due at one moment fire in it
+};
+
+class Clock {
+public:
+    // Milliseconds since the session's start.
+    std::int64_t now() const { return now_; }
+
+    // Milliseconds since 1 January 1970, universal time, as the player's clock says.
+    std::int64_t universal() const { return epoch_ + now_ + shift_; }
+    void SetEpoch(std::int64_t moment) { epoch_ = moment; }  // the moment of the session's start
+    void Shift(std::int64_t by) { shift_ += by; }     // the player's clock jumps
+
+    // Runs to a moment that is not behind, and fires each timer that falls due on the way or exactly there.
+    void AdvanceTo(std::int64_t moment);
+    void Advance(milliseconds time) { AdvanceTo(now_ + time.count()); }
+
+    // The client hangs: time passes, no timer fires, then each that fell due fires once.
+    void Stall(milliseconds time);
+
+    // Running timers, in the order of their last start.
+    std::vector<const SimTimer*> Running() const;
+
+private:
+    friend class SimTimer;
+    std::int64_t now_ = 0;
+    std::int64_t epoch_ = 0;
+    std::int64_t shift_ = 0;
+    std::uint64_t starts_ = 0;
+    std::vector<SimTimer*> timers_;
+};
+
+}  // namespace ombrel::sim

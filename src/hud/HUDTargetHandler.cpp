@@ -1,0 +1,24 @@
+#include "hud/HUDTargetHandler.h"
+
+#include "core/Hub.h"
+
+namespace ombrel {
+
+HUDTargetHandler::HUDTargetHandler() {
+    wtcw_debug("HUDTarget Handler Init");
+    TargetHud = std::make_unique<HudHandlerT>("Target");
+}
+
+HUDTargetHandler::~HUDTargetHandler() { wtcw_debug("HUDTarget Handler Terminate"); }
+
+void HUDTargetHandler::CreateHUD() {}
+void HUDTargetHandler::UpdateHUD() {}
+void HUDTargetHandler::RemoveTitle() { TargetHud->TitleFade(0); }
+void HUDTargetHandler::SetObject(host::WorldObjectPtr object) { TargetHud->SetObject(std::move(object)); }
+bool HUDTargetHandler::GetObject(host::WorldObjectPtr& object) {
+    object = TargetHud->Object();
+    return object != nullptr;
+}
+void HUDTargetHandler::UpdateDebuffs() {}
+
+}  // namespace ombrel
