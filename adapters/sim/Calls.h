@@ -58,6 +58,9 @@ std::span<const Operation> Operations();
 // The operation of that name. Nothing when there is none, or when the bare name stands for several.
 std::optional<Op> FindOperation(std::string_view name);
 
+// The same for a name that the table has.
+inline Op OperationNamed(std::string_view name) { return FindOperation(name).value(); }
+
 // Where calls go, and which are made to fail.
 class Calls {
 public:
