@@ -12,14 +12,16 @@ namespace ombrel {
 // IPlugin2_Terminate. Nothing thrown leaves any of these procedures.
 class APluginCore final : public host::IPlugin2, public host::IWindowsMessageSink {
 public:
-    // `platform` must outlive the plug-in.
+    // `platform` must outlive the plug-in. There is one plug-in at a time: a newer one takes the globals over.
     explicit APluginCore(host::Platform& platform);
+
+    // Releases whatever is still there, also when IPlugin2_Terminate never came.
     ~APluginCore() override;
     APluginCore(const APluginCore&) = delete;
     APluginCore& operator=(const APluginCore&) = delete;
 
     // Makes the handlers in their fixed order and binds the options view. A step that fails is reported and ends the
-    // procedure; the framework is told success all the same.
+    // procedure; the framework is told success all the same. Once more on the same object, it begins clean.
     void IPlugin2_Initialize(host::PluginSite& site) override;
 
     // Stops the timers, then releases every handler in a fixed order. Saves nothing: that was Char_Logoff's.

@@ -1,7 +1,8 @@
 // What the game is asked, and what it tells.
 //
 // Other classes ask this one for names, places, counts and enchantments, and have it act on items; its event procedures
-// hand what happens to the class that does the work. The queries and events stand in core/, the automations in automation/.
+// hand what happens to the class that does the work. The queries and events stand in core/, the automations in
+// automation/.
 #pragma once
 
 #include <cstdint>
@@ -36,8 +37,8 @@ public:
     std::int32_t GetMyEnchantmentCount();
     host::Enchantment GetMyEnchantment(std::int32_t index);  // index from 0
     host::Id GetCurrentSelection();
-    std::int32_t GetCombatMode();    // 1 is peace
-    std::int32_t GetBusyState();     // 0 is free
+    std::int32_t GetCombatMode();  // 1 is peace
+    std::int32_t GetBusyState();   // 0 is free
     std::int32_t GetPointerState();
     bool GetChatState();
     bool ChatState();
@@ -51,7 +52,7 @@ public:
     void SendCommand(std::string_view text);
     void SetIdleTime(double seconds);
 
-    // Places as text, "12.3N, 45.6E"; nothing for an object without a place.
+    // Places as text, "12.3N, 45.6E". An object without a place on the map stands at 0.0N, 0.0E.
     std::string FormatCoord(double value);  // value is not negative
     std::string ConvCoords(double ns, double ew);
     std::string GetCharCoords();
@@ -137,14 +138,19 @@ public:
     Owned<DX8Sound> StaminaAlarm;
     Owned<DX8Sound> ManaAlarm;
 
-    bool FriendsCheck = false;      // the answer to our own question for friends is awaited
-    bool SellingPeas = false;       // peas are being sold
-    bool DevMode = false;           // the developer display, toggled by /m dev
-    host::Id TradeNoteId = 0;       // the note that was bought last, 0 when it has been stacked
+    bool FriendsCheck = false;  // the answer to our own question for friends is awaited
+    bool SellingPeas = false;   // peas are being sold
+    bool DevMode = false;       // the developer display, toggled by /m dev
+    host::Id TradeNoteId = 0;   // the note that was bought last, 0 when it has been stacked
 
 private:
-    bool IsOwnCorpse(const host::WorldObject& object);
-    void UpdateAlarms();
+    void BindTimers();
+    void BindHooks();
+    void BindWorld();
+    void BindCharStats();
+    void TellMissing(std::string_view service);
+
+    bool IsOwnCorpse(const std::string& name);  // whether a thing of that name is a corpse of the character
 };
 
 }  // namespace ombrel

@@ -12,6 +12,7 @@ namespace ombrel {
 
 class DX8Sound {
 public:
+    // Without a sound card the failure is reported here, once; the sound then stays silent.
     DX8Sound();
     ~DX8Sound();
     DX8Sound(const DX8Sound&) = delete;
@@ -27,8 +28,7 @@ public:
 
 private:
     Owned<host::SoundDevice> device_;
-    Owned<host::SoundBuffer> buffer_;
-    bool set_ = false;
+    Owned<host::SoundBuffer> buffer_;  // empty while no sound is set
 };
 
 }  // namespace ombrel
