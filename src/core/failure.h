@@ -17,6 +17,8 @@
 #include <exception>
 #include <string>
 #include <string_view>
+#include <system_error>
+#include <utility>
 
 namespace ombrel {
 
@@ -43,11 +45,13 @@ constexpr std::int32_t kKeyExists = 457;
 // The text that goes with one of the numbers above.
 std::string_view FailureText(std::int32_t number);
 
+// The number that stands for an error of the system.
+std::int32_t FailureNumber(const std::error_code& code);
+
 class Failure : public std::exception {
 public:
     explicit Failure(std::int32_t number) : Failure(number, std::string(FailureText(number))) {}
-    Failure(std::int32_t number, std::string description)
-        : number_(number), description_(std::move(description)) {}
+    Failure(std::int32_t number, std::string description) : number_(number), description_(std::move(description)) {}
 
     std::int32_t number() const { return number_; }
     const std::string& description() const { return description_; }
@@ -58,12 +62,12 @@ private:
     std::string description_;
 };
 
-// Reports the failure in flight. Call it only from a handler. `object` is a class name, or "!" and a module name. A failure
-// inside the report itself ends there.
+// Reports the failure in flight. Call it only from a handler. `object` is a class name, or "!" and a module name. A
+// failure inside the report itself ends there.
 void ReportFailure(std::string_view procedure, std::string_view object) noexcept;
 
-// Counts how deep a procedure is nested in itself. At the limit the next call is failure 28, long before the client's stack
-// of 1 MB is in danger.
+// Counts how deep a procedure is nested in itself. At the limit the next call is failure 28, long before the client's
+// stack of 1 MB is in danger.
 class DepthGuard {
 public:
     DepthGuard(std::int32_t& depth, std::int32_t limit) : depth_(depth) {

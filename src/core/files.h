@@ -23,21 +23,22 @@ enum class Durability {
     kPower,    // survives a power cut; slow
 };
 
-// Writes the content beside the old file and puts it in its place, so that a crash at any moment leaves the old file or the
-// new one. Makes the folders that it needs.
+// Writes the content beside the old file and puts it in its place, so that a crash at any moment leaves the old file or
+// the new one. Makes the folders that it needs.
 void SaveFile(std::string_view path, std::string_view content, Durability durability);
 
-// Adds to the end of a file, which it makes, with its folders, when it is missing.
-void AppendFile(std::string_view path, std::string_view content);
+// Adds to the end of a file, which it makes, with its folders, when it is missing. `heading` comes first in an empty
+// file.
+void AppendFile(std::string_view path, std::string_view content, std::string_view heading = {});
 
-// Copies a file beside itself under "<name> (<reason> <date>)<extension>". Returns the copy's path; does nothing when there
-// is no such file.
+// Copies a file beside itself under "<name> (<reason> <date>)<extension>", with a number behind the date when another
+// file has that name. Returns the copy's path; does nothing when there is no such file.
 std::string KeepCopy(std::string_view path, std::string_view reason);
 
 void MakeFolders(std::string_view folder);
 
-// Names of the files in a folder that end in `extension` without regard to case, in order; none for a folder that is not
-// there.
+// Names of the files in a folder that end in `extension` without regard to case, in order; none for a folder that is
+// not there.
 std::vector<std::string> ListFiles(std::string_view folder, std::string_view extension);
 
 }  // namespace ombrel

@@ -5,8 +5,9 @@
 //     #        one digit
 //
 // In a list, a-z is a range in ascending order; "-" at either end stands for itself, and so do * ? # and [, so that a
-// literal [ is [[]. An empty list [] matches the empty string. Characters compare with case, by their 16-bit code, and the
-// whole text must match the whole pattern. A list that is never closed or a range in descending order is failure 93.
+// literal [ is [[]. An empty list [] matches the empty string. Characters compare with case, by their 16-bit code, and
+// the whole text must match the whole pattern. A list that is never closed or a range in descending order is
+// failure 93.
 #pragma once
 
 #include <cstdint>
@@ -19,6 +20,9 @@ namespace ombrel {
 bool LikeMatch(std::string_view text, std::string_view pattern);
 
 // A pattern made ready once for many texts.
+//
+// What stands between two stars has a fixed length. So each such run is looked for once, as far left as it goes, and
+// never has to be given back: no pattern takes longer than the text's length times its own.
 class LikePattern {
 public:
     // Throws Failure 93 for a malformed pattern.
@@ -27,8 +31,53 @@ public:
     bool Matches(std::string_view text) const;
 
 private:
-    struct Compiled;
-    std::string pattern_;
+    // One character of the text.
+    struct Item {
+        enum class Kind : std::uint8_t { kUnit, kAny, kDigit, kList };
+        Kind kind;
+        bool negated = false;  // of a list
+        char16_t unit = 0;
+        std::uint32_t begin = 0;  // of a list in ranges_
+        std::uint32_t end = 0;
+    };
+    struct Range {
+        char16_t first;
+        char16_t last;
+    };
+    // What stands between two stars, in items_.
+    struct Run {
+        std::uint32_t begin;
+        std::uint32_t end;
+    };
+    // The same where it is a literal, in literals_. It is looked for by its rarest byte, at `rare`.
+    struct Literal {
+        std::uint32_t begin;
+        std::uint32_t size;
+        std::uint32_t rare;
+    };
+
+    void Parse(std::u16string_view pattern);
+    std::size_t ParseList(std::u16string_view pattern, std::size_t at);
+    void EndRun();
+    void PrepareLiterals();
+    std::string LiteralOf(std::uint32_t begin, std::uint32_t end) const;
+    bool MatchesLiterals(std::string_view text) const;
+    template <class Unit>
+    bool MatchesRuns(const Unit* text, std::size_t size) const;
+    template <class Unit>
+    bool MatchesRun(const Unit* text, Run run) const;
+    bool MatchesItem(char16_t unit, const Item& item) const;
+
+    // Literals at the ends tell most texts apart at once.
+    std::string prefix_;
+    std::string suffix_;
+    bool star_ = false;
+    bool literal_ = true;  // made of literals and stars alone: bytes do, and the items are not needed
+    std::string literals_;
+    std::vector<Literal> middle_;
+    std::vector<Item> items_;
+    std::vector<Run> runs_;
+    std::vector<Range> ranges_;
 };
 
 }  // namespace ombrel
