@@ -20,5 +20,6 @@ bool HUDTargetHandler::GetObject(host::WorldObjectPtr& object) {
     return object != nullptr;
 }
 void HUDTargetHandler::UpdateDebuffs() {}
+void HUDTargetHandler::Debuff(host::Id, std::int32_t, double) {}
 
 }  // namespace ombrel

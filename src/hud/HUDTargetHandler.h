@@ -21,6 +21,9 @@ public:
     bool GetObject(host::WorldObjectPtr& object);
     void UpdateDebuffs();  // each second
 
+    // An effect that plays on an object: the codes of debuffs time the debuff, others do nothing.
+    void Debuff(host::Id object, std::int32_t code, double speed);
+
     Owned<HudHandlerT> TargetHud;
 };
 

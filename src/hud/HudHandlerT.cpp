@@ -19,5 +19,6 @@ void HudHandlerT::SetFontFace(const std::string& face) { font_face_ = face; }
 void HudHandlerT::TitleFade(std::int32_t) {}
 void HudHandlerT::SetObject(host::WorldObjectPtr object) { object_ = std::move(object); }
 void HudHandlerT::RemoveDebuff(host::Id) {}
+void HudHandlerT::UpdateHealth(bool) {}
 
 }  // namespace ombrel

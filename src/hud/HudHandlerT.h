@@ -25,6 +25,7 @@ public:
     void SetObject(host::WorldObjectPtr object);
     const host::WorldObjectPtr& Object() const { return object_; }
     void RemoveDebuff(host::Id object);
+    void UpdateHealth(bool drawAlone);
 
     std::int32_t x() const { return x_; }
     std::int32_t y() const { return y_; }
