@@ -109,12 +109,9 @@ void StartMainHudTimer() {
     Vars::TimerHandler->StartMainHUDTime(ToLong(timeout.Data(timeout.Selected())));
 }
 
-// The log is named after the character, and after the day when the player wants one a day.
-void StartLog(const std::string& server, const std::string& character) {
+void StartLog() {
     wtcw_debug("Starting Automatic Logging");
-    std::string name = server + "_" + character;
-    if (Vars::ControlHandler->ChatLogByDate->Checked()) name += "_" + FormatIsoDay(NowDate());
-    Vars::LogHandler->SetLogfile(name);
+    Vars::LogHandler->SetLogfile(Vars::LogHandler->AutomaticName());
     Vars::LogHandler->SetFileLogging(true);
 }
 
@@ -176,7 +173,7 @@ void FilterHandler::Char_LoginComplete() try {
         Fill_Mana(true);
     }
     Vars::TimerHandler->StartStartupDelay();
-    if (options.ChatLogAuto->Checked()) StartLog(GetMyServer(), GetMyCharName());
+    if (options.ChatLogAuto->Checked()) StartLog();
     wtcw_debug("Login Complete End");
 } catch (...) {
     ReportFailure("LoginComplete", "FilterHandler");

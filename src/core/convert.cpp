@@ -101,15 +101,20 @@ struct Decimal {
     int point = 0;
 };
 
-Decimal ToDecimal(double value) {
+// Digits that the text of a number shows at most.
+constexpr int kMostDigits = 15;
+constexpr int kMostFloatDigits = 7;
+
+Decimal ToDecimal(double value, int digits = kMostDigits) {
     if (!std::isfinite(value)) throw Failure(failure::kOverflow);
     Decimal result;
     result.negative = std::signbit(value) && value != 0.0;
-    const auto scientific = fmt::format("{:.14e}", std::abs(value));  // d.dddddddddddddde+xx
-    result.digits = scientific.substr(0, 1) + scientific.substr(2, 14);
+    const auto scientific = fmt::format("{:.{}e}", std::abs(value), digits - 1);  // d.ddde+xx
+    const auto mantissa = scientific.find('e');
+    result.digits = scientific.substr(0, 1) + scientific.substr(2, mantissa - 2);
     result.digits.erase(result.digits.find_last_not_of('0') + 1);
     if (result.digits.empty()) return result;
-    const auto* exponent = scientific.data() + 17;
+    const auto* exponent = scientific.data() + mantissa + 1;
     if (*exponent == '+') ++exponent;
     std::from_chars(exponent, scientific.data() + scientific.size(), result.point);
     ++result.point;
@@ -178,14 +183,14 @@ double Val(std::string_view text) {
 
 std::string_view BoolText(bool value) { return value ? "True" : "False"; }
 
-std::string NumberText(double value) {
-    constexpr int kMostDigits = 15;
-    const auto number = ToDecimal(value);
+namespace {
+
+std::string DecimalText(const Decimal& number, int most_digits) {
     const auto count = static_cast<int>(number.digits.size());
     if (count == 0) return "0";
 
     std::string text = number.negative ? "-" : "";
-    const bool fits = number.point <= kMostDigits && count - number.point <= kMostDigits;
+    const bool fits = number.point <= most_digits && count - number.point <= most_digits;
     if (!fits) {
         text += number.digits[0];
         if (count > 1) text.append(1, '.').append(number.digits, 1);
@@ -200,6 +205,10 @@ std::string NumberText(double value) {
     return text + number.digits.substr(0, point) + "." + number.digits.substr(point);
 }
 
+}  // namespace
+
+std::string NumberText(double value) { return DecimalText(ToDecimal(value), kMostDigits); }
+std::string NumberText(float value) { return DecimalText(ToDecimal(value, kMostFloatDigits), kMostFloatDigits); }
 std::string NumberText(std::int32_t value) { return fmt::format_int(value).str(); }
 
 double Round(double value, int decimals) {

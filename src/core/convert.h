@@ -17,6 +17,7 @@ double Val(std::string_view text);               // the number that the text beg
 
 std::string_view BoolText(bool value);           // "True" or "False"
 std::string NumberText(double value);            // shortest form with up to 15 digits; below 1 without the leading zero
+std::string NumberText(float value);             // up to 7 digits
 std::string NumberText(std::int32_t value);
 
 double Round(double value, int decimals = 0);    // halves to even
