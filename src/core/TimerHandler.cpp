@@ -145,7 +145,7 @@ void TimerHandler::CoreTimer_Timeout() try {
     Vars::LogHandler->WriteFileLog();
 
     if (Vars::Statistics->TotalSec % 60 == 0) {
-        if (Vars::SpellHandler->ItemSpellCount() > 0) Vars::ControlHandler->Data_Save();
+        if (!Vars::SpellHandler->ItemSpells.empty()) Vars::ControlHandler->Data_Save();
         Vars::Statistics->UpdateAvgXP();
     }
 } catch (...) {
