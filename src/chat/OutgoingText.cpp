@@ -1,0 +1,133 @@
+// Lines that the player types: commands of the plug-in, and aliases.
+#include <fmt/format.h>
+
+#include "chat/ChatTables.h"
+#include "chat/ChatTextHandler.h"
+#include "config/ControlHandler.h"
+#include "core/FilterHandler.h"
+#include "core/Vars.h"
+#include "core/cells.h"
+#include "core/like.h"
+#include "core/text.h"
+#include "input/KeyboardAC.h"
+
+namespace ombrel {
+
+namespace {
+
+// How deep expansions may lead to further expansions.
+constexpr std::int32_t kMaxDepth = 24;
+
+bool IsLowerLetter(char c) { return c >= 'a' && c <= 'z'; }
+
+bool IsCommand(std::string_view text) { return text.starts_with('/') || text.starts_with('@'); }
+
+void ReadAlias(const host::List& list, std::int32_t row, Alias& alias) {
+    alias.enabled = CellFlag(list, 0, row);
+    if (!alias.enabled) return;
+    alias.abbreviation = CellText(list, 1, row);
+    alias.full = CellText(list, 2, row);
+    alias.command = IsCommand(alias.abbreviation);
+    const std::string lower = ToLower(alias.abbreviation);
+    alias.pattern.emplace(alias.command ? "[/@]" + lower.substr(1) + "[!a-z]*" : "*[!a-z]" + lower + "[!a-z]*");
+}
+
+std::vector<Alias> ReadAliases(const host::List& list) {
+    std::vector<Alias> aliases(static_cast<std::size_t>(list.Count()));
+    for (std::size_t row = 0; row < aliases.size(); ++row) {
+        try {
+            ReadAlias(list, static_cast<std::int32_t>(row), aliases[row]);
+        } catch (const Failure& failure) {
+            aliases[row].failure = failure;
+        }
+    }
+    return aliases;
+}
+
+// The "/" or "@" that the player typed stays, unless the whole is to be typed into the chat box.
+void ExpandCommand(std::string& line, const Alias& alias, bool& typeIt) {
+    std::string_view full = alias.full;
+    if (full.ends_with('_')) {
+        typeIt = true;
+        line = ReplaceNoCase(line, alias.abbreviation, DropLast(full), 1);
+    } else {
+        if (!full.empty()) full.remove_prefix(1);
+        line = ReplaceNoCase(line, std::string_view(alias.abbreviation).substr(1), full, 1);
+    }
+}
+
+// Expands the abbreviation wherever it stands with no letter beside it. It is sought in the lower-cased line, so that
+// one with capitals is never found. One whose full text brings it up anew ends in failure 28.
+void ExpandWord(std::string& line, const Alias& alias) {
+    const std::string& word = alias.abbreviation;
+    if (word.empty()) return;
+
+    std::size_t left = line.size();
+    std::string lower = ToLower(line);
+    for (std::size_t at = lower.find(word); at != std::string::npos; at = lower.find(word, at + word.size())) {
+        const std::size_t behind = at + word.size();
+        if (at == 0 || behind >= lower.size() || IsLowerLetter(lower[at - 1]) || IsLowerLetter(lower[behind])) continue;
+
+        if (left-- == 0) throw Failure(failure::kStackSpace);
+        line = line.substr(0, at) + ReplaceNoCase(std::string_view(line).substr(at), word, alias.full, 1);
+        lower = ToLower(line);
+    }
+}
+
+}  // namespace
+
+bool ChatTextHandler::OutgoingText(const std::string& text) {
+    bool pass = true;
+    try {
+        if (!Vars::Loaded) return pass;
+        const DepthGuard guard(outgoing_depth_, kMaxDepth);
+        if (LikeMatch(ToLower(text), "[/@]m *")) {
+            RunCommand(Trim(std::string_view(text).substr(2)));
+            return false;
+        }
+        std::string line = text;
+        bool typeIt = false;
+        if (!ExpandAliases(line, typeIt)) return pass;
+
+        if (LikeMatch(line, "[/@]m *")) {
+            OutgoingText(line);
+        } else if (typeIt) {
+            Vars::KeyboardAC->AddWaitforChat();
+            Vars::KeyboardAC->SendString(line, true);
+            Vars::KeyboardAC->Run();
+        } else {
+            Vars::FilterHandler->SendCommand(line);
+        }
+        pass = false;
+    } catch (...) {
+        ReportFailure("OutgoingText", "ChatTextHandler");
+    }
+    return pass;
+}
+
+// Returns whether an alias counted. Later word aliases work on what earlier ones made of the line.
+bool ChatTextHandler::ExpandAliases(std::string& line, bool& typeIt) {
+    const std::vector<Alias>& aliases = tables_->aliases.Get(*Vars::ControlHandler->ChatAlias, &ReadAliases);
+    bool changed = false;
+    if (IsCommand(line)) {
+        const std::string lower = ToLower(line) + " ";
+        for (const Alias& alias : aliases) {
+            if (alias.failure) throw *alias.failure;
+            if (!alias.enabled || !alias.command || !alias.pattern->Matches(lower)) continue;
+            ExpandCommand(line, alias, typeIt);
+            changed = true;
+            break;
+        }
+    }
+    line = fmt::format(" {} ", line);
+    for (const Alias& alias : aliases) {
+        if (alias.failure) throw *alias.failure;
+        if (!alias.enabled || alias.command || !alias.pattern->Matches(ToLower(line))) continue;
+        ExpandWord(line, alias);
+        changed = true;
+    }
+    line = Trim(line);
+    return changed;
+}
+
+}  // namespace ombrel
