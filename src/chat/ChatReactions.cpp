@@ -25,6 +25,12 @@ namespace {
 
 constexpr std::string_view kBurnBegin = "The spell consumed the following components: ";
 constexpr std::int32_t kGatherMilliseconds = 300;
+
+const LikePattern kForgetReply("Guardian of the Temple of Forgetfulness tells you,*essence of*");
+const LikePattern kEnlightenReply("Guardian of the Temple of Enlightenment tells you,*essence of*");
+const LikePattern kRaised("Your * is now *");
+const LikePattern kEarned("You've earned * experience in your *");
+const LikePattern kCastOnOwnItem("*cast*on your*");
 constexpr std::size_t kMaxGathered = 1000;
 
 // Splits a text and takes one piece; one that is missing is failure 9.
@@ -68,14 +74,10 @@ void AnswerGuardian(const std::string& guardian, std::string_view text, bool& pe
 void ChatTextHandler::TempleReplies(ChatLine& line) {
     if (line.type != chat_type::kTell) return;
 
-    if (templeForgetPending &&
-        LikeMatch(line.received, "Guardian of the Temple of Forgetfulness tells you,*essence of*")) {
+    if (templeForgetPending && kForgetReply.Matches(line.received))
         AnswerGuardian("Guardian of the Temple of Forgetfulness", line.received, templeForgetPending);
-    }
-    if (templeEnlightenPending &&
-        LikeMatch(line.received, "Guardian of the Temple of Enlightenment tells you,*essence of*")) {
+    if (templeEnlightenPending && kEnlightenReply.Matches(line.received))
         AnswerGuardian("Guardian of the Temple of Enlightenment", line.received, templeEnlightenPending);
-    }
 }
 
 // Many times over, so that nobody misses it.
@@ -133,9 +135,8 @@ void ChatTextHandler::Advancement(ChatLine& line) {
     if (line.type == chat_type::kAdvancement && line.received.starts_with("You are now level"))
         Vars::Statistics->Level();
 
-    const bool raised = line.type == chat_type::kAdvancement && LikeMatch(line.received, "Your * is now *");
-    const bool earned =
-        line.type == chat_type::kSystem && LikeMatch(line.received, "You've earned * experience in your *");
+    const bool raised = line.type == chat_type::kAdvancement && kRaised.Matches(line.received);
+    const bool earned = line.type == chat_type::kSystem && kEarned.Matches(line.received);
     if (!raised && !earned) return;
     Vars::Statistics->ChangeXP(false);
     Vars::NetEchoHandler->ResetXPBools();
@@ -223,9 +224,9 @@ bool ChatTextHandler::GatherCasts(ChatLine& line) {
 
 void ChatTextHandler::ItemSpells(ChatLine& line) {
     if (line.type != chat_type::kMagic || !Contains(line.received, "cast")) return;
-    const bool cast_by_us = line.received.starts_with("You cast") && LikeMatch(line.received, "* on *") &&
+    const bool cast_by_us = line.received.starts_with("You cast") && Contains(line.received, " on ") &&
                             !Contains(line.received, "on yourself");
-    if (!cast_by_us && !LikeMatch(line.received, "*cast*on your*")) return;
+    if (!cast_by_us && !kCastOnOwnItem.Matches(line.received)) return;
     if (!Vars::ControlHandler->SpellsItem->Checked()) return;
 
     const std::string_view cast = Piece(line.working, " on ", 0);

@@ -16,5 +16,6 @@ void CorpseHandler::CorpseData(const std::string&) {}
 void CorpseHandler::AddCorpse() {}
 void CorpseHandler::OpenCorpse(double, double, host::Id) {}
 void CorpseHandler::CorpseDisappear(double, double, host::Id) {}
+std::string CorpseHandler::GetCorpse() { return {}; }
 
 }  // namespace ombrel

@@ -24,6 +24,7 @@ public:
     void AddCorpse();
     void OpenCorpse(double ns, double ew, host::Id guid);
     void CorpseDisappear(double ns, double ew, host::Id guid);
+    std::string GetCorpse();  // where the selected corpse lies, for chat
 
 private:
     bool died_ = false;

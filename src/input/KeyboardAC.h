@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace ombrel {
 
@@ -12,7 +13,10 @@ public:
     KeyboardAC(const KeyboardAC&) = delete;
     KeyboardAC& operator=(const KeyboardAC&) = delete;
 
-    void SendKey(std::int32_t key);  // one press and release of a virtual key, at once
+    void Run();                                                // begins to type what is buffered
+    void SendKey(std::int32_t key);                            // one press and release of a virtual key, at once
+    void SendString(const std::string& text, bool letEvents);  // buffers the characters of a text
+    void AddWaitforChat();                                     // buffers a wait for the chat box to open
 };
 
 }  // namespace ombrel
