@@ -181,7 +181,8 @@ void CorpseHandler::RemoveCorpsebyID(std::int32_t id) try {
 void CorpseHandler::Remove(std::size_t index) {
     Corpses.erase(Corpses.begin() + static_cast<std::ptrdiff_t>(index));
     std::int32_t& selected = Vars::ControlHandler->SelectedCorpse;
-    if (selected == static_cast<std::int32_t>(index)) selected = -1;
+    const auto rows = static_cast<std::int32_t>(Corpses.size());
+    if (selected == static_cast<std::int32_t>(index) || selected >= rows) selected = -1;
     UpdateCorpseList();
     Vars::HUDMainHandler->CreateHUD();
     Vars::ControlHandler->Data_Save();

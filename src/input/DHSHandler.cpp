@@ -83,7 +83,7 @@ void DHSHandler::HK_HotkeyEvent(const std::string& name, bool& handled) try {
     for (const HotkeyRow& hotkey : kHotkeys)
         if (hotkey.name == name) handled = hotkey.action();
 } catch (...) {
-    ReportFailure("HotkeyEvent", "DHSHandler");
+    ReportFailure("HK_HotkeyEvent", "DHSHandler");
 }
 
 }  // namespace ombrel
