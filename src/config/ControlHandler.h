@@ -1,17 +1,21 @@
 // All options, which live in the controls of the options view.
 //
-// The controls are the only copy of almost every option at run time: an option is read from its control at the moment of
-// use, and the settings file copies the controls out and in. Controls, settings file and data file stand in one source
-// each.
+// The controls are the only copy of almost every option at run time: an option is read from its control at the moment
+// of use, and the settings file copies the controls out and in. Controls, settings file and data file stand in one
+// source each.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
 #include <string_view>
 
+#include "config/FileGuard.h"
+#include "config/NameIndex.h"
 #include "core/Ref.h"
+#include "core/files.h"
 #include "host/Controls.h"
 
 namespace ombrel {
@@ -33,13 +37,17 @@ public:
     // action 1 is the defaults file; any other value is the global file when GlobalSettings is checked, else the
     // character's. Loading leaves SettingsState at 2 when the controls are complete; saving needs it there.
     void Settings_Load(std::int32_t action);
-    void Settings_Save(std::int32_t action);
+    void Settings_Save(std::int32_t action, Durability durability = Durability::kProcess);
 
+    // What play has learned. action shows in the debug log alone.
     void Data_Load(std::int32_t action);
-    void Data_Save();
+    void Data_Save(Durability durability = Durability::kProcess);
 
-    // The row of a list whose text is `name`, or -1. Lists: "HudList", "HudClock", "ChatOptions", "ChatColor", "ChatLog".
+    // The row of a list whose text is `name`, or -1. Lists: "HudList", "HudClock", "ChatOptions", "ChatColor",
+    // "ChatLog".
     std::int32_t FindName(std::string_view name, std::string_view list);
+
+    void HudOn_Change();
 
     // Each turns a HUD on or off, as its "X" button does.
     void ToggleAll();
@@ -232,6 +240,15 @@ public:
     Ref<host::Slider> VitalsSuccessSlider;
     Ref<host::Slider> VitalsCheapSlider;
     Ref<host::Slider> VitalsFallbackSlider;
+
+private:
+    template <class Row>
+    void Bind(const Row& row);
+    void FillSoundChoices();
+    void ToggleHud(std::int32_t row);
+
+    FileGuard files_;
+    std::array<NameIndex, 5> names_;  // one for each list that FindName knows
 };
 
 }  // namespace ombrel

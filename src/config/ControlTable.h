@@ -1,16 +1,32 @@
-// Every control of the options view: its name there, its kind, and the member that it is bound to.
+// Every control of the options view: its name there, its kind, the member that it is bound to, and who answers its
+// events.
+//
+// Events reach their procedure only while a character is in (Vars::Loaded), so the procedures need not ask.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 #include "config/ControlHandler.h"
 
 namespace ombrel {
 
+using ControlEvent = void (ControlHandler::*)();
+using ListEvent = void (ControlHandler::*)(std::int32_t column, std::int32_t row);
+
 template <class Kind>
 struct ControlRow {
     std::string_view name;
     Ref<Kind> ControlHandler::*member;
+    ControlEvent change = nullptr;  // changed or pressed; an edit's at each key
+    ControlEvent end = nullptr;     // edits: the player has finished
+};
+
+template <>
+struct ControlRow<host::List> {
+    std::string_view name;
+    Ref<host::List> ControlHandler::*member;
+    ListEvent change = nullptr;  // a click on a cell
 };
 
 inline constexpr ControlRow<host::StaticText> kStaticTexts[] = {
@@ -86,7 +102,7 @@ inline constexpr ControlRow<host::Checkbox> kCheckboxes[] = {
     {"Beer_Focus", &ControlHandler::BeerFocus},
     {"Beer_Self", &ControlHandler::BeerSelf},
     {"Beer_Use_Check", &ControlHandler::BeerUseCheck},
-    {"HUD_On", &ControlHandler::HudOn},
+    {"HUD_On", &ControlHandler::HudOn, &ControlHandler::HudOn_Change},
     {"HUD_Clock_Disp", &ControlHandler::HudClockDisp},
     {"HUD_Date_Disp", &ControlHandler::HudClockDateDisp},
     {"HUD_Clock_24", &ControlHandler::HudClockHour},

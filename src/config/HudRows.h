@@ -1,0 +1,69 @@
+// The list of HUDs in the options view: its rows, its columns, and the canvas behind each row.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "core/Vars.h"
+#include "core/failure.h"
+#include "hud/HUDClockHandler.h"
+#include "hud/HUDItemHandler.h"
+#include "hud/HUDMainHandler.h"
+#include "hud/HUDStatusHandler.h"
+#include "hud/HUDTargetHandler.h"
+
+namespace ombrel {
+
+class ControlHandler;
+
+namespace hud {
+
+constexpr std::int32_t kMain = 0;
+constexpr std::int32_t kClock = 1;
+constexpr std::int32_t kItems = 2;
+constexpr std::int32_t kStatus = 3;
+constexpr std::int32_t kTarget = 4;
+constexpr std::int32_t kCount = 5;
+
+// Columns of HudGeneral; 1 is the name.
+constexpr std::int32_t kOn = 0;
+constexpr std::int32_t kFont = 2;
+constexpr std::int32_t kSize = 3;
+constexpr std::int32_t kBackground = 4;
+constexpr std::int32_t kAlpha = 5;
+constexpr std::int32_t kOutline = 6;
+
+// Does something with the canvas of a row. The target's is of another class with the same members.
+template <class Action>
+void WithCanvas(std::int32_t row, Action action) {
+    switch (row) {
+        case kMain:
+            return action(*Vars::HUDMainHandler->MainHud);
+        case kClock:
+            return action(*Vars::HUDClockHandler->ClockHUD);
+        case kItems:
+            return action(*Vars::HUDItemHandler->ItemHUD);
+        case kStatus:
+            return action(*Vars::HUDStatusHandler->StatusHud);
+        case kTarget:
+            return action(*Vars::HUDTargetHandler->TargetHud);
+        default:
+            throw Failure(failure::kSubscript);
+    }
+}
+
+// Draws a HUD from scratch.
+void Create(std::int32_t row);
+
+// A HUD shows when its row is ticked, and HUDs are on as a whole.
+void ApplyEnabled(const ControlHandler& controls, std::int32_t row);
+
+// Hands the canvas font, size, background and outline of its row.
+void ApplyLook(const ControlHandler& controls, std::int32_t row);
+
+// The step that ConvertColor takes for the entry of the alpha choice: "100%" lets everything through and is 0, "0%"
+// is 10.
+std::int32_t AlphaIndex(std::string_view alpha);
+
+}  // namespace hud
+}  // namespace ombrel
