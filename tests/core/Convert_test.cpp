@@ -87,6 +87,9 @@ TEST(Convert, WritesNumbersInTheirShortestForm) {
         {1e300, "1E+300"},
     };
     for (const auto& [value, text] : cases) EXPECT_EQ(NumberText(value), text);
+    EXPECT_EQ(NumberText(0.1f), ".1");
+    EXPECT_EQ(NumberText(12345.678f), "12345.68");
+    EXPECT_EQ(NumberText(1e7f), "1E+07");
     EXPECT_EQ(NumberText(std::numeric_limits<std::int32_t>::min()), "-2147483648");
 }
 
