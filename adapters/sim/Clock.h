@@ -22,16 +22,17 @@ public:
     SimTimer(Clock& clock, Calls& calls, std::string name);
     ~SimTimer() override;
 
-    void Start(std::int32_t milliseconds) override;
+    // A wait of less than a millisecond is one millisecond: the clock could never get past it otherwise.
+    void Start(std::int32_t wait) override;
     void Stop() override;
-    bool Running() const override { return running_; }
+    bool Running() const override;
 
     const std::string& name() const { return name_; }
     std::int32_t interval() const { return interval_; }
 
 private:
     friend class Clock;
-    Clock& clock_;
+    Clock* clock_;  // none once the clock has gone
     Calls& calls_;
     std::string name_;
     bool running_ = false;
@@ -42,19 +43,25 @@ private:
 
 class Clock {
 public:
+    Clock() = default;
+    ~Clock();
+    Clock(const Clock&) = delete;
+    Clock& operator=(const Clock&) = delete;
+
     // Milliseconds since the session's start.
     std::int64_t now() const { return now_; }
 
     // Milliseconds since 1 January 1970, universal time, as the player's clock says.
     std::int64_t universal() const { return epoch_ + now_ + shift_; }
     void SetEpoch(std::int64_t moment) { epoch_ = moment; }  // the moment of the session's start
-    void Shift(std::int64_t by) { shift_ += by; }     // the player's clock jumps
+    void Shift(std::int64_t by) { shift_ += by; }            // the player's clock jumps; no timer notices
 
     // Runs to a moment that is not behind, and fires each timer that falls due on the way or exactly there.
     void AdvanceTo(std::int64_t moment);
     void Advance(milliseconds time) { AdvanceTo(now_ + time.count()); }
 
-    // The client hangs: time passes, no timer fires, then each that fell due fires once.
+    // The client hangs: time passes, no timer fires, then each that fell due fires once. Its next wait ends when it
+    // would have ended without the hang.
     void Stall(milliseconds time);
 
     // Running timers, in the order of their last start.
@@ -62,8 +69,13 @@ public:
 
 private:
     friend class SimTimer;
+
+    // Of the timers that are due by then, the one that fires first.
+    SimTimer* NextDue(std::int64_t moment) const;
+    static void Fire(SimTimer& timer);
+
     std::int64_t now_ = 0;
-    std::int64_t epoch_ = 0;
+    std::int64_t epoch_ = 1141560000000;  // 2006-03-05T12:00:00Z
     std::int64_t shift_ = 0;
     std::uint64_t starts_ = 0;
     std::vector<SimTimer*> timers_;

@@ -150,6 +150,33 @@ private:
     void BindCharStats();
     void TellMissing(std::string_view service);
 
+    void SellStep(std::int32_t count, std::int32_t pyreals, double needed);
+    void BuyStep(const host::WorldObject& note, double needed);
+    void SelectPeas(std::int32_t count);
+    void StackNote();
+    void NextPea();
+
+    // A fill under way.
+    struct ManaFill {
+        bool automatic = false;       // nobody asked for it by hand
+        host::Id last_item = -1;      // the last piece of equipment that was asked about
+        std::int32_t scan_start = 0;  // moment, a second before the questions
+        host::Id stone = 0;           // the stone or charge to use
+    };
+
+    // A sale under way.
+    struct PeaSale {
+        std::int32_t state = 0;   // 0 idle, 1 to 4 selling, 10 to 13 buying
+        std::int32_t bought = 0;  // notes
+        std::size_t pea = 0;      // row of the table
+        host::Id stack = 0;       // the stack in hand
+        host::Id target = 0;      // the stack of notes that the new one joins
+        std::int32_t target_count = 0;
+    };
+
+    ManaFill mana_fill_;
+    PeaSale sale_;
+
     bool IsOwnCorpse(const std::string& name);  // whether a thing of that name is a corpse of the character
 };
 

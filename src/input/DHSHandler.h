@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/Ref.h"
 #include "host/HotkeyService.h"
@@ -16,7 +17,12 @@ public:
     DHSHandler& operator=(const DHSHandler&) = delete;
 
     bool HasService() const { return static_cast<bool>(HK); }
-    void AddHotKeys();
+
+    void AddHotKeys();  // offers every action that the service does not know yet, so that a binding stands
+    void AddAHotKey(std::string_view name, std::string_view description);
+
+    // A hotkey was pressed. `handled` stays false for names that are not ours, and where food or kit found nothing to
+    // do.
     void HK_HotkeyEvent(const std::string& name, bool& handled);
 
     Owned<host::HotkeyService> HK;

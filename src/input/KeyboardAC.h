@@ -1,8 +1,15 @@
-// Types into the game window.
+// Types into the game window, one entry of a buffer at a time.
+//
+// Keys are pressed without their shift state: capitals and shifted symbols come out as their plain keys.
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <string>
+#include <string_view>
+
+#include "core/Ref.h"
+#include "host/Timer.h"
 
 namespace ombrel {
 
@@ -13,10 +20,23 @@ public:
     KeyboardAC(const KeyboardAC&) = delete;
     KeyboardAC& operator=(const KeyboardAC&) = delete;
 
-    void Run();                                                // begins to type what is buffered
-    void SendKey(std::int32_t key);                            // one press and release of a virtual key, at once
-    void SendString(const std::string& text, bool letEvents);  // buffers the characters of a text
-    void AddWaitforChat();                                     // buffers a wait for the chat box to open
+    void Run();                                          // starts typing what the buffer holds
+    void SendKey(std::int32_t key);                      // one press and release of a virtual key, at once
+    void SendChar(const std::string& entry);             // acts on one entry, at once
+    void SendString(std::string_view text, bool yield);  // adds each character; `yield` lets the client breathe between
+    void SendEnter();
+    void AddWaitforChat();  // opens the chat box and waits until it is open
+    bool CheckEnter();      // the enter key is up
+
+    void WriteBuffer_Timeout();
+    void WaitChat_Timeout();
+
+    bool WaitingForChat = false;
+    Owned<host::Timer> WriteBuffer;
+    Owned<host::Timer> WaitChat;
+
+private:
+    std::deque<std::string> buffer_;  // characters, "{Enter}" and "{Chat}"
 };
 
 }  // namespace ombrel
