@@ -171,6 +171,7 @@ void LikePattern::PrepareLiterals() {
         while (begin > last.begin && is_literal(items_[begin - 1])) --begin;
         suffix_ = LiteralOf(begin, last.end);
     }
+    shortest_ = prefix_.size() + suffix_.size();
     if (!literal_) return;
 
     for (std::size_t i = 1; i + 1 < runs_.size(); ++i) {
@@ -182,16 +183,15 @@ void LikePattern::PrepareLiterals() {
                            static_cast<std::uint32_t>(rare - text.begin())});
         literals_ += text;
     }
+    shortest_ += literals_.size();
     items_ = {};
     runs_ = {};
     ranges_ = {};
 }
 
-bool LikePattern::Matches(std::string_view text) const {
+bool LikePattern::MatchesAll(std::string_view text) const {
     if (literal_ && !star_) return text == prefix_;
-    if (text.size() < prefix_.size() + suffix_.size()) return false;
-    if (std::memcmp(text.data(), prefix_.data(), prefix_.size()) != 0) return false;
-    if (std::memcmp(text.data() + text.size() - suffix_.size(), suffix_.data(), suffix_.size()) != 0) return false;
+    if (!text.starts_with(prefix_) || !text.ends_with(suffix_)) return false;
     if (literal_) return MatchesLiterals(text);
     if (IsAscii(text)) return MatchesRuns(text.data(), text.size());
     const Units units(text);

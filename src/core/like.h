@@ -10,6 +10,7 @@
 // failure 93.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -28,7 +29,13 @@ public:
     // Throws Failure 93 for a malformed pattern.
     explicit LikePattern(std::string_view pattern);
 
-    bool Matches(std::string_view text) const;
+    // The ends tell most texts apart at once.
+    bool Matches(std::string_view text) const {
+        if (text.size() < shortest_) return false;
+        if (!prefix_.empty() && text.front() != prefix_.front()) return false;
+        if (!suffix_.empty() && text.back() != suffix_.back()) return false;
+        return MatchesAll(text);
+    }
 
 private:
     // One character of the text.
@@ -61,6 +68,7 @@ private:
     void EndRun();
     void PrepareLiterals();
     std::string LiteralOf(std::uint32_t begin, std::uint32_t end) const;
+    bool MatchesAll(std::string_view text) const;
     bool MatchesLiterals(std::string_view text) const;
     template <class Unit>
     bool MatchesRuns(const Unit* text, std::size_t size) const;
@@ -68,9 +76,9 @@ private:
     bool MatchesRun(const Unit* text, Run run) const;
     bool MatchesItem(char16_t unit, const Item& item) const;
 
-    // Literals at the ends tell most texts apart at once.
-    std::string prefix_;
+    std::string prefix_;  // the literals that every match begins and ends with
     std::string suffix_;
+    std::size_t shortest_ = 0;  // bytes of all the literals that don't overlap
     bool star_ = false;
     bool literal_ = true;  // made of literals and stars alone: bytes do, and the items are not needed
     std::string literals_;
