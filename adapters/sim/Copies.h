@@ -37,10 +37,6 @@ public:
     Copies(const Copies&) = delete;
     Copies& operator=(const Copies&) = delete;
 
-    bool empty() const {
-        return std::ranges::all_of(places_, [](const Place* place) { return !place; });
-    }
-
     // Raises an event on each copy that was there at its start and still is. A slot may end or bind anew its own
     // object.
     template <class Base, class... Parameters, class... Arguments>

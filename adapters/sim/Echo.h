@@ -1,14 +1,5 @@
-// The echo of game messages, as a plug-in gets it, and messages to echo.
+// The echo of game messages, as a plug-in gets it.
 #pragma once
-
-#include <cstdint>
-#include <functional>
-#include <map>
-#include <memory>
-#include <string>
-#include <string_view>
-#include <variant>
-#include <vector>
 
 #include "adapters/sim/Client.h"
 #include "host/EchoFilter2.h"

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <sstream>
 #include <stdexcept>
 #include <type_traits>
 #include <utility>
@@ -83,7 +84,9 @@ bool ReadField(std::string_view text, const SpellColumn& column, SpellRow& row) 
 std::string ReadWhole(const std::string& path) {
     std::ifstream file(std::filesystem::path(std::u8string(path.begin(), path.end())), std::ios::binary);
     if (!file) throw std::runtime_error(path + ": the spell table can't be opened");
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream text;
+    text << file.rdbuf();
+    return std::move(text).str();
 }
 
 std::string_view WithoutReturn(std::string_view line) {
