@@ -1,48 +1,51 @@
-// The canvas of the main, clock, item and status HUDs: a surface over the 3D area that shows keyed lines.
+// The canvas of the main, clock, item and status HUDs: keyed lines, in a frame that fits them.
+//
+// Its owner adds lines and calls frame.DrawHUD; only lines whose text has changed are painted again.
 #pragma once
+
+#include <tsl/ordered_map.h>
 
 #include <cstdint>
 #include <string>
 #include <string_view>
 
+#include "hud/HUDItem.h"
+#include "hud/HudFrame.h"
+
 namespace ombrel {
 
 class HUDHandler {
 public:
-    explicit HUDHandler(std::string_view title);
+    HUDHandler();
     ~HUDHandler();
     HUDHandler(const HUDHandler&) = delete;
     HUDHandler& operator=(const HUDHandler&) = delete;
 
-    // Moves the HUD. With checkDock the new place decides whether it docks to the 3D area's edges.
-    void SetPos(std::int32_t x, std::int32_t y, bool checkDock);
-    void UpdatePos();  // the 3D area has changed
-    void SetEnabled(bool enabled);
-    void HudOn();
-    void HUDOff();
+    // Adds a line, or gives the line of that key another text. With the text that it has already it is left alone, also
+    // when colour, icon or alpha differ.
+    void Add(const std::string& strKey, std::string_view strData, std::string_view strColor, std::int32_t lngIcon,
+             bool bolNewLine, std::int32_t alpha = 10);
+    void Clear();
+    std::size_t count() const { return items_.size(); }
 
-    std::int32_t x() const { return x_; }
-    std::int32_t y() const { return y_; }
-    bool Enabled() const { return enabled_; }
-    std::int32_t FontSize() const { return font_size_; }
-    void SetFontSize(std::int32_t pixels);
-    const std::string& FontFace() const { return font_face_; }
-    void SetFontFace(const std::string& face);
+    const tsl::ordered_map<std::string, HUDItem>& items() const { return items_; }
 
-    const std::string title;
-    bool DrawTitle = true;
-    bool Outline = false;
-    bool DockVert = false;
-    bool DockHorz = false;
-    std::int16_t IconSize = 16;
-    std::int32_t BackgroundColor = 0;  // 0xAARRGGBB
+    HudFrame frame;
 
 private:
-    bool enabled_ = false;
-    std::int32_t x_ = 5;
-    std::int32_t y_ = 100;
-    std::int32_t font_size_ = 16;
-    std::string font_face_ = "Arial";
+    bool SetHeightbyData();  // whether the size changed
+    bool SetWidthbyData();
+    void Paint(host::HudView& view, bool Force);
+
+    // Where the next item goes.
+    struct Cursor {
+        std::int32_t left, top, step;
+    };
+    void PaintItem(host::HudView& view, const HUDItem& item, bool touch, Cursor& cursor) const;
+    void PaintIcon(host::HudView& view, const HUDItem& item, const host::Rect& rect) const;
+    void PaintText(host::HudView& view, const HUDItem& item, const host::Rect& rect, std::int32_t format) const;
+
+    tsl::ordered_map<std::string, HUDItem> items_;
 };
 
 }  // namespace ombrel

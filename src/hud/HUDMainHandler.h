@@ -1,5 +1,7 @@
-// The main HUD: the player's statistics.
+// The main HUD: the player's statistics, copied from what the options view shows.
 #pragma once
+
+#include <cstdint>
 
 #include "core/Ref.h"
 #include "hud/HUDHandler.h"
@@ -15,8 +17,13 @@ public:
 
     void CreateHUD();  // from scratch
     void UpdateHUD();  // what has changed
+    void ClickHUD(std::int32_t x, std::int32_t y);
+    bool WithinTitle(std::int32_t x, std::int32_t y);
 
     Owned<HUDHandler> MainHud;
+
+private:
+    void AddData();
 };
 
 }  // namespace ombrel

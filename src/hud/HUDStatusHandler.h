@@ -1,6 +1,8 @@
-// The status HUD: the game's short status messages, kept for a few seconds.
+// The status HUD: the game's short status messages, each for a few seconds.
 #pragma once
 
+#include <cstdint>
+#include <deque>
 #include <string>
 
 #include "core/Ref.h"
@@ -15,12 +17,24 @@ public:
     HUDStatusHandler(const HUDStatusHandler&) = delete;
     HUDStatusHandler& operator=(const HUDStatusHandler&) = delete;
 
-    void AddMessage(const std::string& message);
-    void Update();  // each second: drops what is over
-    void CreateHUD();
-    void UpdateHUD();
+    void CreateHUD();  // from scratch
+    void UpdateHUD();  // what has changed
+    void ClickHUD(std::int32_t x, std::int32_t y);
+    bool WithinTitle(std::int32_t x, std::int32_t y);
+
+    void AddMessage(const std::string& message);  // the last one again only lives longer
+    void Update();                                // each second: drops what is over
 
     Owned<HUDHandler> StatusHud;
+
+private:
+    void AddData();
+
+    struct Message {
+        std::string text;
+        std::int32_t expires;  // moment
+    };
+    std::deque<Message> messages_;  // newest last
 };
 
 }  // namespace ombrel
