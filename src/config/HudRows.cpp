@@ -5,10 +5,34 @@
 
 #include "config/ControlHandler.h"
 #include "core/Hub.h"
+#include "core/Vars.h"
 #include "core/cells.h"
 #include "core/convert.h"
+#include "core/failure.h"
+#include "hud/HUDClockHandler.h"
+#include "hud/HUDItemHandler.h"
+#include "hud/HUDMainHandler.h"
+#include "hud/HUDStatusHandler.h"
+#include "hud/HUDTargetHandler.h"
 
 namespace ombrel::hud {
+
+HudFrame& FrameOf(std::int32_t row) {
+    switch (row) {
+        case kMain:
+            return Vars::HUDMainHandler->MainHud->frame;
+        case kClock:
+            return Vars::HUDClockHandler->ClockHUD->frame;
+        case kItems:
+            return Vars::HUDItemHandler->ItemHUD->frame;
+        case kStatus:
+            return Vars::HUDStatusHandler->StatusHud->frame;
+        case kTarget:
+            return Vars::HUDTargetHandler->TargetHud->frame;
+        default:
+            throw Failure(failure::kSubscript);
+    }
+}
 
 void Create(std::int32_t row) {
     switch (row) {
@@ -29,7 +53,7 @@ void Create(std::int32_t row) {
 
 void ApplyEnabled(const ControlHandler& controls, std::int32_t row) {
     const bool enabled = CellFlag(*controls.HudGeneral, kOn, row) && controls.HudOn->Checked();
-    WithCanvas(row, [&](auto& canvas) { canvas.SetEnabled(enabled); });
+    FrameOf(row).SetEnabled(enabled);
 }
 
 void ApplyLook(const ControlHandler& controls, std::int32_t row) {
@@ -40,12 +64,11 @@ void ApplyLook(const ControlHandler& controls, std::int32_t row) {
     const std::int32_t size = ToLong(CellText(list, kSize, row));
     const bool outline = CellFlag(list, kOutline, row);
 
-    WithCanvas(row, [&](auto& canvas) {
-        canvas.SetFontFace(face == Vars::FontNames.end() ? "Arial" : face->second);
-        canvas.SetFontSize(size);
-        canvas.BackgroundColor = background;
-        canvas.Outline = outline;
-    });
+    HudFrame& frame = FrameOf(row);
+    frame.SetFontFace(face == Vars::FontNames.end() ? "Arial" : face->second);
+    frame.SetFontSize(size);
+    frame.BackgroundColor = background;
+    frame.Outline = outline;
 }
 
 std::int32_t AlphaIndex(std::string_view alpha) {

@@ -4,13 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "core/Vars.h"
-#include "core/failure.h"
-#include "hud/HUDClockHandler.h"
-#include "hud/HUDItemHandler.h"
-#include "hud/HUDMainHandler.h"
-#include "hud/HUDStatusHandler.h"
-#include "hud/HUDTargetHandler.h"
+#include "hud/HudFrame.h"
 
 namespace ombrel {
 
@@ -33,24 +27,8 @@ constexpr std::int32_t kBackground = 4;
 constexpr std::int32_t kAlpha = 5;
 constexpr std::int32_t kOutline = 6;
 
-// Does something with the canvas of a row. The target's is of another class with the same members.
-template <class Action>
-void WithCanvas(std::int32_t row, Action action) {
-    switch (row) {
-        case kMain:
-            return action(*Vars::HUDMainHandler->MainHud);
-        case kClock:
-            return action(*Vars::HUDClockHandler->ClockHUD);
-        case kItems:
-            return action(*Vars::HUDItemHandler->ItemHUD);
-        case kStatus:
-            return action(*Vars::HUDStatusHandler->StatusHud);
-        case kTarget:
-            return action(*Vars::HUDTargetHandler->TargetHud);
-        default:
-            throw Failure(failure::kSubscript);
-    }
-}
+// The frame of the HUD of a row: place, look, and whether it shows.
+HudFrame& FrameOf(std::int32_t row);
 
 // Draws a HUD from scratch.
 void Create(std::int32_t row);

@@ -5,13 +5,19 @@
 #include "core/Hub.h"
 #include "core/Vars.h"
 #include "core/cells.h"
+#include "core/failure.h"
+#include "hud/HUDClockHandler.h"
+#include "hud/HUDItemHandler.h"
+#include "hud/HUDMainHandler.h"
+#include "hud/HUDStatusHandler.h"
+#include "hud/HUDTargetHandler.h"
 
 namespace ombrel {
 
 void ControlHandler::HudOn_Change() try {
     for (std::int32_t row = 0; row < hud::kCount; ++row) {
         hud::ApplyEnabled(*this, row);
-        if (!HudOn->Checked()) hud::WithCanvas(row, [](auto& canvas) { canvas.HUDOff(); });
+        if (!HudOn->Checked()) hud::FrameOf(row).HUDOff();
     }
     Vars::HUDMainHandler->UpdateHUD();
     Vars::HUDClockHandler->UpdateHUD();

@@ -18,6 +18,7 @@
 #include "core/cells.h"
 #include "core/convert.h"
 #include "core/text.h"
+#include "hud/HUDTargetHandler.h"
 
 namespace ombrel {
 
@@ -173,9 +174,11 @@ void ShowFirstRows(const ControlHandler& controls) {
 
 // Docking counts from here on.
 void PlaceHuds() {
-    Vars::HUDTargetHandler->TargetHud->TitleFade(0);
-    for (const std::int32_t row : {hud::kStatus, hud::kMain, hud::kItems, hud::kClock})
-        hud::WithCanvas(row, [](auto& canvas) { canvas.SetPos(canvas.x(), canvas.y(), false); });
+    Vars::HUDTargetHandler->TargetHud->frame.SetFade(0);
+    for (const std::int32_t row : {hud::kStatus, hud::kMain, hud::kItems, hud::kClock}) {
+        HudFrame& frame = hud::FrameOf(row);
+        frame.SetPos(frame.x(), frame.y(), false);
+    }
 }
 
 void WriteElement(FlatXml& xml, const ControlHandler& controls, const Element& element, std::int32_t row) {

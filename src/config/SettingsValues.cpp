@@ -11,10 +11,12 @@
 #include "config/ViewHandler.h"
 #include "core/Hub.h"
 #include "core/TimerHandler.h"
+#include "core/Vars.h"
 #include "core/cells.h"
 #include "core/convert.h"
 #include "core/text.h"
 #include "hud/DX8Sound.h"
+#include "hud/HUDTargetHandler.h"
 #include "stats/Statistics.h"
 
 namespace ombrel::settings {
@@ -73,11 +75,14 @@ struct Load {
                 loading.place.y = ToLong(value);
                 return;
             case InCanvas::kDockHorz:
-                return WithCanvas([on = ToBool(value)](auto& canvas) { canvas.DockHorz = on; });
+                frame().DockHorz = ToBool(value);
+                return;
             case InCanvas::kDockVert:
-                return WithCanvas([on = ToBool(value)](auto& canvas) { canvas.DockVert = on; });
+                frame().DockVert = ToBool(value);
+                return;
             case InCanvas::kDrawTitle:
-                return WithCanvas([on = ToBool(value)](auto& canvas) { canvas.DrawTitle = on; });
+                frame().DrawTitle = ToBool(value);
+                return;
         }
     }
 
@@ -85,10 +90,7 @@ struct Load {
 
     void operator()(const InSelectedSpell&) const { controls().SelectedSpell = value == "-1" ? "" : value; }
 
-    template <class Action>
-    void WithCanvas(Action action) const {
-        hud::WithCanvas(loading.element->row, action);
-    }
+    HudFrame& frame() const { return hud::FrameOf(loading.element->row); }
 };
 
 struct Save {
@@ -120,20 +122,19 @@ struct Save {
     void operator()(const InOlderFlag&) const {}
 
     void operator()(InCanvas part) const {
-        hud::WithCanvas(element.row, [&](const auto& canvas) {
-            switch (part) {
-                case InCanvas::kX:
-                    return Write(canvas.x());
-                case InCanvas::kY:
-                    return Write(canvas.y());
-                case InCanvas::kDockHorz:
-                    return Write(canvas.DockHorz);
-                case InCanvas::kDockVert:
-                    return Write(canvas.DockVert);
-                case InCanvas::kDrawTitle:
-                    return Write(canvas.DrawTitle);
-            }
-        });
+        const HudFrame& frame = hud::FrameOf(element.row);
+        switch (part) {
+            case InCanvas::kX:
+                return Write(frame.x());
+            case InCanvas::kY:
+                return Write(frame.y());
+            case InCanvas::kDockHorz:
+                return Write(frame.DockHorz);
+            case InCanvas::kDockVert:
+                return Write(frame.DockVert);
+            case InCanvas::kDrawTitle:
+                return Write(frame.DrawTitle);
+        }
     }
 
     void operator()(InView part) const {
@@ -208,7 +209,7 @@ void PassLog(Loading& loading) {
 void PassHud(Loading& loading) {
     const std::int32_t row = loading.element->row;
     hud::ApplyLook(loading.controls, row);
-    hud::WithCanvas(row, [&](auto& canvas) { canvas.SetPos(loading.place.x, loading.place.y, false); });
+    hud::FrameOf(row).SetPos(loading.place.x, loading.place.y, false);
     hud::ApplyEnabled(loading.controls, row);
 }
 
@@ -220,8 +221,7 @@ void PassMainHud(Loading& loading) {
 
 void PassItemHud(Loading& loading) {
     const double edge = Val(SelectedText(*loading.controls.HudItemsIconSize));
-    if (edge > 0)
-        hud::WithCanvas(hud::kItems, [&](auto& canvas) { canvas.IconSize = static_cast<std::int16_t>(edge); });
+    if (edge > 0) hud::FrameOf(hud::kItems).IconSize = static_cast<std::int16_t>(edge);
     PassHud(loading);
 }
 

@@ -297,11 +297,11 @@ void FilterHandler::ACHooks_ObjectSelected(host::Id id) try {
 
 void FilterHandler::ACHooks_AC3DRegionChanged(std::int32_t, std::int32_t, std::int32_t, std::int32_t) try {
     if (!Vars::Loaded) return;
-    Vars::HUDMainHandler->MainHud->UpdatePos();
-    Vars::HUDItemHandler->ItemHUD->UpdatePos();
-    Vars::HUDClockHandler->ClockHUD->UpdatePos();
-    Vars::HUDTargetHandler->TargetHud->UpdatePos();
-    Vars::HUDStatusHandler->StatusHud->UpdatePos();
+    Vars::HUDMainHandler->MainHud->frame.UpdatePos();
+    Vars::HUDItemHandler->ItemHUD->frame.UpdatePos();
+    Vars::HUDClockHandler->ClockHUD->frame.UpdatePos();
+    Vars::HUDTargetHandler->TargetHud->frame.UpdatePos();
+    Vars::HUDStatusHandler->StatusHud->frame.UpdatePos();
 } catch (...) {
     ReportFailure("ACHooks_AC3DRegionChanged", "FilterHandler");
 }

@@ -409,9 +409,9 @@ void FilterHandler::ExportEnchantments() try {
 
 // Docking is decided anew, or a HUD docked to an edge would stay there.
 void FilterHandler::ResetHUDsPos() try {
-    Vars::HUDClockHandler->ClockHUD->SetPos(5, 60, true);
-    Vars::HUDItemHandler->ItemHUD->SetPos(5, 400, true);
-    Vars::HUDMainHandler->MainHud->SetPos(5, 200, true);
+    Vars::HUDClockHandler->ClockHUD->frame.SetPos(5, 60, true);
+    Vars::HUDItemHandler->ItemHUD->frame.SetPos(5, 400, true);
+    Vars::HUDMainHandler->MainHud->frame.SetPos(5, 200, true);
     Vars::ControlHandler->Settings_Save(0);
 } catch (...) {
     ReportFailure("ResetHUDsPos", "FilterHandler");

@@ -6,14 +6,15 @@ namespace ombrel {
 
 HUDTargetHandler::HUDTargetHandler() {
     wtcw_debug("HUDTarget Handler Init");
-    TargetHud = std::make_unique<HudHandlerT>("Target");
+    TargetHud = std::make_unique<HudHandlerT>();
+    TargetHud->frame.SetTitle("Target");
 }
 
 HUDTargetHandler::~HUDTargetHandler() { wtcw_debug("HUDTarget Handler Terminate"); }
 
 void HUDTargetHandler::CreateHUD() {}
 void HUDTargetHandler::UpdateHUD() {}
-void HUDTargetHandler::RemoveTitle() { TargetHud->TitleFade(0); }
+void HUDTargetHandler::RemoveTitle() { TargetHud->frame.SetFade(0); }
 void HUDTargetHandler::SetObject(host::WorldObjectPtr object) { TargetHud->SetObject(std::move(object)); }
 bool HUDTargetHandler::GetObject(host::WorldObjectPtr& object) {
     object = TargetHud->Object();

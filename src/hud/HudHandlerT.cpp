@@ -1,23 +1,34 @@
 #include "hud/HudHandlerT.h"
 
+#include "core/Hub.h"
+#include "core/failure.h"
+
 namespace ombrel {
+namespace {
 
-HudHandlerT::HudHandlerT(std::string_view name) : title(name) {}
+constexpr HudFrame::Names kNames{
+    "HudHandlerT", "HudHandlerT.FadeTimer", "CreateHUDT1 ", "ResizeHUDT ", "MoveHUDT ", "ClickHUDT ", "DeviceLost "};
 
-HudHandlerT::~HudHandlerT() = default;
+}  // namespace
 
-void HudHandlerT::SetPos(std::int32_t x, std::int32_t y, bool) {
-    x_ = x;
-    y_ = y;
+HudHandlerT::HudHandlerT() : frame(kNames) {
+    try {
+        wtcw_debug("HUD Handler Init");
+        frame.Open({[] { return false; }, [this] { return object_ == nullptr; }, [](host::HudView&, bool) {}});
+    } catch (...) {
+        ReportFailure("Class_Initialize", "HudHandlerT");
+    }
 }
-void HudHandlerT::UpdatePos() {}
-void HudHandlerT::SetEnabled(bool enabled) { enabled_ = enabled; }
-void HudHandlerT::HudOn() { enabled_ = true; }
-void HudHandlerT::HUDOff() { enabled_ = false; }
-void HudHandlerT::SetFontSize(std::int32_t pixels) { font_size_ = pixels; }
-void HudHandlerT::SetFontFace(const std::string& face) { font_face_ = face; }
-void HudHandlerT::TitleFade(std::int32_t) {}
-void HudHandlerT::SetObject(host::WorldObjectPtr object) { object_ = std::move(object); }
+
+HudHandlerT::~HudHandlerT() { wtcw_debug("HUD Handler Terminate"); }
+
+void HudHandlerT::SetObject(host::WorldObjectPtr object) try {
+    object_ = std::move(object);
+    frame.DrawHUD(false);
+} catch (...) {
+    ReportFailure("Object", "HudHandlerT");
+}
+
 void HudHandlerT::RemoveDebuff(host::Id) {}
 void HudHandlerT::UpdateHealth(bool) {}
 
