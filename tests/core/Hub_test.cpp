@@ -322,6 +322,7 @@ TEST_F(Hub, TheSoundListsShowTheFilesOfTheirFolders) {
     GetSoundLoopList();
     for (int i = 0; i < 2; ++i) EXPECT_THAT(choices[i].texts, ElementsAre("None", "bell.wav", "Tell.WAV"));
     for (int i = 2; i < 5; ++i) EXPECT_THAT(choices[i].texts, ElementsAre("None", "low.wav"));
+    Vars::ControlHandler.Release();  // before the choices that it refers to
 }
 
 TEST_F(Hub, AClickLandsInTheWindowAndTheCursorGoesBack) {
