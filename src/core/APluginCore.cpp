@@ -24,6 +24,7 @@
 #include "hud/HUDMainHandler.h"
 #include "hud/HUDStatusHandler.h"
 #include "hud/HUDTargetHandler.h"
+#include "hud/HudMouse.h"
 #include "input/DHSHandler.h"
 #include "input/KeyboardAC.h"
 #include "spells/SpellFilterHandler.h"
@@ -201,10 +202,10 @@ void APluginCore::IPlugin2_Terminate() try {
     ReportFailure("IPlugin_Terminate", "APluginCore");
 }
 
-void APluginCore::IWindowsMessageSink_WindowMessage(std::int32_t, std::int32_t, std::int32_t, std::int32_t,
+void APluginCore::IWindowsMessageSink_WindowMessage(std::int32_t, std::int32_t message, std::int32_t, std::int32_t,
                                                     bool& eat) try {
     eat = false;
-    if (!Vars::Loaded || Vars::HudFailed || !Vars::ControlHandler->HudOn->Checked()) return;
+    HandleMouse(message);
 } catch (...) {
     ReportFailure("IWindowsMessageSink_WindowMessage", "APluginCore");
 }

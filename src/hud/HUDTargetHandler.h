@@ -24,6 +24,9 @@ public:
     // An effect that plays on an object: the codes of debuffs time the debuff, others do nothing.
     void Debuff(host::Id object, std::int32_t code, double speed);
 
+    void ClickHUD(std::int32_t x, std::int32_t y);
+    bool WithinTitle(std::int32_t x, std::int32_t y);
+
     Owned<HudHandlerT> TargetHud;
 };
 
