@@ -12,6 +12,7 @@
 #include "core/Hub.h"
 #include "core/Vars.h"
 #include "core/convert.h"
+#include "corpses/CorpseHandler.h"
 #include "spells/SpellHandler.h"
 
 namespace ombrel {
@@ -35,6 +36,28 @@ void SaveGlobal(FlatXml& xml) {
     xml.Begin("Global");
     xml.Attribute("enabled", BoolText(Vars::ControlHandler->GlobalSettings->Checked()));
     xml.End();
+}
+
+void LoadCorpse(const pugi::xml_node& node) {
+    const double ns = Val(GetAttribute(node, "ns", "0"));
+    const double ew = Val(GetAttribute(node, "ew", "0"));
+    const std::int32_t time = LongAttribute(node, "time");
+    const bool dungeon = ToBool(GetAttribute(node, "dungeon", "0"));
+    const host::Id guid = LongAttribute(node, "guid");
+    Vars::CorpseHandler->AddCorpsefromData(ns, ew, time, dungeon, guid, std::string(GetAttribute(node, "data", "")));
+}
+
+void SaveCorpses(FlatXml& xml) {
+    for (const CorpseInfo& corpse : Vars::CorpseHandler->Corpses) {
+        xml.Begin("Corpse");
+        xml.Attribute("ns", NumberText(corpse.NS));
+        xml.Attribute("ew", NumberText(corpse.EW));
+        xml.Attribute("time", corpse.time);
+        xml.Attribute("dungeon", BoolText(corpse.Dungeon));
+        xml.Attribute("guid", corpse.guid);
+        xml.Attribute("data", corpse.data);
+        xml.End();
+    }
 }
 
 void LoadItemSpell(const pugi::xml_node& node) {
@@ -85,6 +108,7 @@ struct Kind {
 };
 constexpr Kind kKinds[] = {
     {"Global", LoadGlobal, SaveGlobal},
+    {"Corpse", LoadCorpse, SaveCorpses},
     {"Item_Spell", LoadItemSpell, SaveItemSpells},
     {"Log", LoadLog, SaveLog},
 };

@@ -180,8 +180,8 @@ void FilterHandler::Char_LoginComplete() try {
 }
 
 void FilterHandler::Char_Logoff(std::int32_t) try {
-    Vars::ControlHandler->Settings_Save(0);
-    Vars::ControlHandler->Data_Save();
+    Vars::ControlHandler->Settings_Save(0, Durability::kPower);
+    Vars::ControlHandler->Data_Save(Durability::kPower);
 } catch (...) {
     ReportFailure("Char_Logoff", "FilterHandler");
 }
