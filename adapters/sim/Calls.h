@@ -45,9 +45,6 @@ std::span<const Operation> Operations();
 // recorded; nothing when that leaves none or more than one.
 std::optional<Op> FindOperation(std::string_view name);
 
-// The same for a name that the table has.
-inline Op OperationNamed(std::string_view name) { return FindOperation(name).value(); }
-
 // Where calls go, and which are made to fail.
 class Calls {
 public:

@@ -43,26 +43,22 @@ host::Cell Converted(host::Cell value, SimList::ColumnKind kind, std::int32_t su
 // Static text and buttons
 
 const std::string& SimStaticText::Text() const {
-    static const Op op = OperationNamed("StaticText.Text");
-    calls_.Note(op);
+    calls_.Note("StaticText.Text"_op);
     return text_;
 }
 
 void SimStaticText::SetText(std::string_view text) {
-    static const Op op = OperationNamed("StaticText.SetText");
-    calls_.Note(op);
+    calls_.Note("StaticText.SetText"_op);
     text_ = text;
 }
 
 const std::string& SimPushButton::Text() const {
-    static const Op op = OperationNamed("PushButton.Text");
-    calls_.Note(op);
+    calls_.Note("PushButton.Text"_op);
     return text_;
 }
 
 void SimPushButton::SetText(std::string_view text) {
-    static const Op op = OperationNamed("PushButton.SetText");
-    calls_.Note(op);
+    calls_.Note("PushButton.SetText"_op);
     text_ = text;
 }
 
@@ -71,14 +67,12 @@ void SimPushButton::Press() { Raise(Accepted); }
 // Check boxes and edits
 
 bool SimCheckbox::Checked() const {
-    static const Op op = OperationNamed("Checkbox.Checked");
-    calls_.Note(op);
+    calls_.Note("Checkbox.Checked"_op);
     return checked_;
 }
 
 void SimCheckbox::SetChecked(bool checked) {
-    static const Op op = OperationNamed("Checkbox.SetChecked");
-    calls_.Note(op);
+    calls_.Note("Checkbox.SetChecked"_op);
     checked_ = checked;
 }
 
@@ -88,14 +82,12 @@ void SimCheckbox::Check(bool checked) {
 }
 
 const std::string& SimEdit::Text() const {
-    static const Op op = OperationNamed("Edit.Text");
-    calls_.Note(op);
+    calls_.Note("Edit.Text"_op);
     return text_;
 }
 
 void SimEdit::SetText(std::string_view text) {
-    static const Op op = OperationNamed("Edit.SetText");
-    calls_.Note(op);
+    calls_.Note("Edit.SetText"_op);
     text_ = text;
 }
 
@@ -114,47 +106,40 @@ SimChoice::SimChoice(Calls& calls, std::vector<Entry> entries, std::int32_t sele
 }
 
 void SimChoice::Add(std::string_view text, std::string_view data) {
-    static const Op op = OperationNamed("Choice.Add");
-    calls_.Note(op);
+    calls_.Note("Choice.Add"_op);
     entries_.push_back({std::string(text), std::string(data)});
 }
 
 void SimChoice::Clear() {
-    static const Op op = OperationNamed("Choice.Clear");
-    calls_.Note(op);
+    calls_.Note("Choice.Clear"_op);
     entries_.clear();
     selected_ = -1;
 }
 
 std::int32_t SimChoice::Count() const {
-    static const Op op = OperationNamed("Choice.Count");
-    calls_.Note(op);
+    calls_.Note("Choice.Count"_op);
     return static_cast<std::int32_t>(entries_.size());
 }
 
 const std::string& SimChoice::Text(std::int32_t index) const {
-    static const Op op = OperationNamed("Choice.Text");
-    calls_.Note(op);
+    calls_.Note("Choice.Text"_op);
     CheckIndex(index, entries_.size());
     return entries_[index].text;
 }
 
 const std::string& SimChoice::Data(std::int32_t index) const {
-    static const Op op = OperationNamed("Choice.Data");
-    calls_.Note(op);
+    calls_.Note("Choice.Data"_op);
     CheckIndex(index, entries_.size());
     return entries_[index].data;
 }
 
 std::int32_t SimChoice::Selected() const {
-    static const Op op = OperationNamed("Choice.Selected");
-    calls_.Note(op);
+    calls_.Note("Choice.Selected"_op);
     return selected_;
 }
 
 void SimChoice::SetSelected(std::int32_t index) {
-    static const Op op = OperationNamed("Choice.SetSelected");
-    calls_.Note(op);
+    calls_.Note("Choice.SetSelected"_op);
     PutSelected(index);
 }
 
@@ -181,16 +166,14 @@ SimList::SimCell& SimList::At(std::int32_t column, std::int32_t row) {
 }
 
 void SimList::Clear() {
-    static const Op op = OperationNamed("List.Clear");
-    calls_.Note(op);
+    calls_.Note("List.Clear"_op);
     if (!rows_.empty()) ++revision_;
     rows_.clear();
     scroll_ = 0;
 }
 
 std::int32_t SimList::AddRow() {
-    static const Op op = OperationNamed("List.AddRow");
-    calls_.Note(op);
+    calls_.Note("List.AddRow"_op);
     std::vector<SimCell> row(columns_.size());
     for (std::size_t column = 0; column < row.size(); ++column) {
         auto& sub = row[column].sub;
@@ -211,22 +194,19 @@ std::int32_t SimList::AddRow() {
 }
 
 void SimList::DeleteRow(std::int32_t row) {
-    static const Op op = OperationNamed("List.DeleteRow");
-    calls_.Note(op);
+    calls_.Note("List.DeleteRow"_op);
     CheckIndex(row, rows_.size());
     rows_.erase(rows_.begin() + row);
     ++revision_;
 }
 
 std::int32_t SimList::Count() const {
-    static const Op op = OperationNamed("List.Count");
-    calls_.Note(op);
+    calls_.Note("List.Count"_op);
     return rows();
 }
 
 const host::Cell& SimList::Data(std::int32_t column, std::int32_t row, std::int32_t sub) const {
-    static const Op op = OperationNamed("List.Data");
-    calls_.Note(op);
+    calls_.Note("List.Data"_op);
     return cell(column, row, sub);
 }
 
@@ -237,8 +217,7 @@ const host::Cell& SimList::cell(std::int32_t column, std::int32_t row, std::int3
 }
 
 void SimList::SetData(std::int32_t column, std::int32_t row, host::Cell value, std::int32_t sub) {
-    static const Op op = OperationNamed("List.SetData");
-    calls_.Note(op);
+    calls_.Note("List.SetData"_op);
     PutData(column, row, std::move(value), sub);
 }
 
@@ -252,8 +231,7 @@ void SimList::PutData(std::int32_t column, std::int32_t row, host::Cell value, s
 }
 
 std::int32_t SimList::Color(std::int32_t column, std::int32_t row) const {
-    static const Op op = OperationNamed("List.Color");
-    calls_.Note(op);
+    calls_.Note("List.Color"_op);
     return At(column, row).color.value_or(kOwnColor);
 }
 
@@ -262,8 +240,7 @@ std::optional<std::int32_t> SimList::color(std::int32_t column, std::int32_t row
 }
 
 void SimList::SetColor(std::int32_t column, std::int32_t row, std::int32_t color) {
-    static const Op op = OperationNamed("List.SetColor");
-    calls_.Note(op);
+    calls_.Note("List.SetColor"_op);
     // A cell that goes back to the list's own colour counts as one without.
     auto& cell = At(column, row).color;
     if (color == kOwnColor && cell && *cell != kOwnColor)
@@ -273,14 +250,12 @@ void SimList::SetColor(std::int32_t column, std::int32_t row, std::int32_t color
 }
 
 std::int32_t SimList::ScrollPosition() const {
-    static const Op op = OperationNamed("List.ScrollPosition");
-    calls_.Note(op);
+    calls_.Note("List.ScrollPosition"_op);
     return scroll_;
 }
 
 void SimList::SetScrollPosition(std::int32_t position) {
-    static const Op op = OperationNamed("List.SetScrollPosition");
-    calls_.Note(op);
+    calls_.Note("List.SetScrollPosition"_op);
     scroll_ = position;
 }
 
@@ -293,14 +268,12 @@ void SimList::Click(std::int32_t column, std::int32_t row) {
 // Progress bars and sliders
 
 std::int32_t SimProgress::Value() const {
-    static const Op op = OperationNamed("Progress.Value");
-    calls_.Note(op);
+    calls_.Note("Progress.Value"_op);
     return value_;
 }
 
 void SimProgress::SetValue(std::int32_t value) {
-    static const Op op = OperationNamed("Progress.SetValue");
-    calls_.Note(op);
+    calls_.Note("Progress.SetValue"_op);
     value_ = value;
 }
 
@@ -310,14 +283,12 @@ SimSlider::SimSlider(Calls& calls, std::int32_t minimum, std::int32_t maximum, s
 }
 
 std::int32_t SimSlider::Position() const {
-    static const Op op = OperationNamed("Slider.Position");
-    calls_.Note(op);
+    calls_.Note("Slider.Position"_op);
     return position_;
 }
 
 void SimSlider::SetPosition(std::int32_t position) {
-    static const Op op = OperationNamed("Slider.SetPosition");
-    calls_.Note(op);
+    calls_.Note("Slider.SetPosition"_op);
     PutPosition(position);
 }
 
@@ -331,14 +302,12 @@ void SimSlider::Move(std::int32_t position) {
 // Notebooks
 
 std::int32_t SimNotebook::ActivePage() const {
-    static const Op op = OperationNamed("Notebook.ActivePage");
-    calls_.Note(op);
+    calls_.Note("Notebook.ActivePage"_op);
     return active_;
 }
 
 void SimNotebook::SetActivePage(std::int32_t page) {
-    static const Op op = OperationNamed("Notebook.SetActivePage");
-    calls_.Note(op);
+    calls_.Note("Notebook.SetActivePage"_op);
     PutActive(page);
 }
 

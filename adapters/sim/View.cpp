@@ -128,6 +128,23 @@ std::unique_ptr<Element> Build(Calls& calls, const pugi::xml_node& node) {
 
 }  // namespace
 
+std::vector<std::int32_t> ColumnWidths(const Element& list) {
+    const auto& kinds = static_cast<const SimList&>(*list.control).columns();
+    std::vector<std::int32_t> widths;
+    std::int32_t left = list.rect.right - list.rect.left - kScrollBar, sharing = 0;
+    for (std::size_t column = 0; column < kinds.size(); ++column) {
+        Element look;
+        look.attributes = list.columns[column];
+        widths.push_back(kinds[column] == SimList::ColumnKind::kText ? look.Number("fixedwidth") : kIconColumn);
+        left -= widths.back();
+        if (widths.back() == 0) ++sharing;
+    }
+    for (std::int32_t& width : widths) {
+        if (width == 0) width = std::max(0, left) / sharing;
+    }
+    return widths;
+}
+
 SimView::SimView(Calls& calls, std::string_view xml) : calls_(calls) {
     pugi::xml_document document;
     const auto parsed = document.load_buffer(xml.data(), xml.size());
@@ -163,21 +180,18 @@ Element* SimView::Find(std::string_view name) const {
 }
 
 host::Control* SimView::Control(std::string_view name) {
-    static const Op op = OperationNamed("View.Control");
-    calls_.Note(op);
+    calls_.Note("View.Control"_op);
     const Element* element = Find(name);
     return element ? element->control.get() : nullptr;
 }
 
 host::Rect SimView::Position() const {
-    static const Op op = OperationNamed("View.Position");
-    calls_.Note(op);
+    calls_.Note("View.Position"_op);
     return position_;
 }
 
 void SimView::SetPosition(const host::Rect& position) {
-    static const Op op = OperationNamed("View.SetPosition");
-    calls_.Note(op);
+    calls_.Note("View.SetPosition"_op);
     position_ = position;
 }
 

@@ -53,8 +53,16 @@ struct Element {
     bool Flag(std::string_view attribute, bool standard = false) const;
 };
 
-// The height of the strip with a notebook's tabs.
-inline constexpr std::int32_t kTabHeight = 20;
+// What the parts of the controls take, in pixels.
+inline constexpr std::int32_t kTabHeight = 20;     // the strip with a notebook's tabs
+inline constexpr std::int32_t kTabPadding = 10;    // both sides of a tab's label together
+inline constexpr std::int32_t kCheckWidth = 16;    // the box of a check box
+inline constexpr std::int32_t kChoiceButton = 17;  // the button of a choice
+inline constexpr std::int32_t kScrollBar = 16;     // the bar at a list's right side
+inline constexpr std::int32_t kIconColumn = 20;    // a check or icon column
+
+// The widths of a list's columns. Text columns without a width of their own share what is left.
+std::vector<std::int32_t> ColumnWidths(const Element& list);
 
 class SimView final : public host::View {
 public:
