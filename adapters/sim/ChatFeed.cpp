@@ -1,10 +1,10 @@
 #include "adapters/sim/ChatFeed.h"
 
+#include <fmt/format.h>
+
 #include <charconv>
 #include <optional>
 #include <string_view>
-
-#include <fmt/format.h>
 
 #include "adapters/sim/SessionFormat.h"
 

@@ -1,5 +1,4 @@
 #include "adapters/sim/SessionAnswers.h"
-
 #include "core/Vars.h"
 #include "hud/HUDClockHandler.h"
 #include "hud/HUDItemHandler.h"
@@ -27,7 +26,9 @@ ordered_json CanvasFields(const Canvas& canvas) {
             {"fontSize", canvas.FontSize()}};
 }
 
-ordered_json TargetFields(const HudHandlerT& canvas) {
+ordered_json Fields(const HUDHandler& canvas) { return CanvasFields(canvas); }
+
+ordered_json Fields(const HudHandlerT& canvas) {
     ordered_json fields = CanvasFields(canvas);
     fields["object"] = canvas.Object() ? canvas.Object()->GUID() : 0;
     return fields;
@@ -35,23 +36,18 @@ ordered_json TargetFields(const HudHandlerT& canvas) {
 
 // The fields of the canvas that a handler holds, where both are there.
 template <class Handler, class Canvas>
-ordered_json Of(const Owned<Handler>& handler, const Owned<Canvas> Handler::*canvas) {
-    if (!handler || !((*handler).*canvas)) return ordered_json::object();
-    if constexpr (std::is_same_v<Canvas, HudHandlerT>) {
-        return TargetFields(*((*handler).*canvas));
-    } else {
-        return CanvasFields(*((*handler).*canvas));
-    }
+ordered_json Of(const Handler* handler, Owned<Canvas> Handler::*canvas) {
+    return handler && handler->*canvas ? Fields(*(handler->*canvas)) : ordered_json::object();
 }
 
 }  // namespace
 
 ordered_json HudAnswer(std::string_view name) {
-    if (name == "Main") return Of(Vars::HUDMainHandler, &HUDMainHandler::MainHud);
-    if (name == "Clock") return Of(Vars::HUDClockHandler, &HUDClockHandler::ClockHUD);
-    if (name == "Item") return Of(Vars::HUDItemHandler, &HUDItemHandler::ItemHUD);
-    if (name == "Status") return Of(Vars::HUDStatusHandler, &HUDStatusHandler::StatusHud);
-    return Of(Vars::HUDTargetHandler, &HUDTargetHandler::TargetHud);
+    if (name == "Main") return Of(Vars::HUDMainHandler.get(), &HUDMainHandler::MainHud);
+    if (name == "Clock") return Of(Vars::HUDClockHandler.get(), &HUDClockHandler::ClockHUD);
+    if (name == "Item") return Of(Vars::HUDItemHandler.get(), &HUDItemHandler::ItemHUD);
+    if (name == "Status") return Of(Vars::HUDStatusHandler.get(), &HUDStatusHandler::StatusHud);
+    return Of(Vars::HUDTargetHandler.get(), &HUDTargetHandler::TargetHud);
 }
 
 }  // namespace ombrel::sim

@@ -1,9 +1,9 @@
 #include "adapters/sim/JsonLine.h"
 
+#include <fmt/format.h>
+
 #include <cmath>
 #include <iterator>
-
-#include <fmt/format.h>
 
 namespace ombrel::sim {
 namespace {
@@ -14,7 +14,12 @@ using OrderedJson = nlohmann::ordered_json;
 std::size_t SequenceLength(std::string_view text) {
     const auto byte = [text](std::size_t index) { return static_cast<unsigned char>(text[index]); };
     const unsigned char lead = byte(0);
-    const std::size_t length = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
+    const std::size_t length = lead < 0x80   ? 1
+                               : lead < 0xC2 ? 0
+                               : lead < 0xE0 ? 2
+                               : lead < 0xF0 ? 3
+                               : lead < 0xF5 ? 4
+                                             : 0;
     if (length == 0 || length > text.size()) return 0;
     for (std::size_t i = 1; i < length; ++i) {
         if ((byte(i) & 0xC0) != 0x80) return 0;
@@ -39,11 +44,21 @@ void AppendText(std::string& out, std::string_view text) {
         const char character = text.front();
         std::size_t length = 1;
         switch (character) {
-            case '"': out += "\\\""; break;
-            case '\\': out += "\\\\"; break;
-            case '\n': out += "\\n"; break;
-            case '\r': out += "\\r"; break;
-            case '\t': out += "\\t"; break;
+            case '"':
+                out += "\\\"";
+                break;
+            case '\\':
+                out += "\\\\";
+                break;
+            case '\n':
+                out += "\\n";
+                break;
+            case '\r':
+                out += "\\r";
+                break;
+            case '\t':
+                out += "\\t";
+                break;
             default:
                 if (static_cast<unsigned char>(character) < 0x20) {
                     fmt::format_to(std::back_inserter(out), "\\u{:04x}", static_cast<unsigned char>(character));

@@ -8,7 +8,9 @@
 namespace ombrel::sim {
 namespace {
 
-char Lower(char character) { return character >= 'A' && character <= 'Z' ? static_cast<char>(character + 32) : character; }
+char Lower(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character + 32) : character;
+}
 
 bool SameName(std::string_view a, std::string_view b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return Lower(x) == Lower(y); });

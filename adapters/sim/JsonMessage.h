@@ -7,8 +7,8 @@
 
 namespace ombrel::sim {
 
-// A structure is an object, a list an array, bytes an array of numbers from 0 to 255. Numbers and texts turn into one another
-// as the framework's do. Each reading can be made to fail. Both references must outlive the message.
+// A structure is an object, a list an array, bytes an array of numbers from 0 to 255. Numbers and texts turn into one
+// another as the framework's do. Each reading can be made to fail. Both references must outlive the message.
 class JsonMessage final : public host::Message {
 public:
     // `json` has a "Type".

@@ -10,9 +10,9 @@ namespace {
 constexpr std::size_t kBufferSize = 1 << 16;
 
 constexpr std::pair<std::string_view, CallKind> kKinds[] = {
-    {"chat", CallKind::kChat},   {"command", CallKind::kCommand}, {"item", CallKind::kItem},
-    {"input", CallKind::kInput}, {"sound", CallKind::kSound},     {"vendor", CallKind::kVendor},
-    {"hotkey", CallKind::kHotkey}, {"host", CallKind::kHost},     {"draw", CallKind::kDraw},
+    {"chat", CallKind::kChat},     {"command", CallKind::kCommand}, {"item", CallKind::kItem},
+    {"input", CallKind::kInput},   {"sound", CallKind::kSound},     {"vendor", CallKind::kVendor},
+    {"hotkey", CallKind::kHotkey}, {"host", CallKind::kHost},       {"draw", CallKind::kDraw},
 };
 
 }  // namespace

@@ -3,12 +3,11 @@
 
 #include <array>
 #include <cstdint>
+#include <nlohmann/json.hpp>
 #include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
-
-#include <nlohmann/json.hpp>
 
 #include "adapters/sim/Calls.h"
 #include "adapters/sim/Clock.h"

@@ -8,7 +8,7 @@ namespace {
 
 using nlohmann::ordered_json;
 
-ordered_json TimersAnswer(const Client& client) {
+ordered_json TimersAnswer(Client& client) {
     ordered_json running = ordered_json::array();
     for (const SimTimer* timer : client.clock.Running()) {
         running.push_back({{"name", timer->name()}, {"milliseconds", timer->interval()}});
@@ -18,7 +18,7 @@ ordered_json TimersAnswer(const Client& client) {
 
 }  // namespace
 
-ordered_json Answer(const Client& client, std::string_view query, std::string_view name) {
+ordered_json Answer(Client& client, std::string_view query, std::string_view name) {
     if (query == "timers") return TimersAnswer(client);
     if (query == "hud") return HudAnswer(name);
     const SimView* view = client.view();

@@ -49,7 +49,8 @@ void CheckState(const Json& record, const Element& element, const ControlRow& ro
     if (element.kind == ElementKind::kChoice && record.contains("selected")) {
         const auto count = static_cast<std::int32_t>(static_cast<const SimChoice&>(*element.control).entries().size());
         const std::int32_t selected = record["selected"].get<std::int32_t>();
-        if (selected < -1 || selected >= count) throw SessionError(fmt::format("{} has no entry {}", element.name, selected));
+        if (selected < -1 || selected >= count)
+            throw SessionError(fmt::format("{} has no entry {}", element.name, selected));
     }
     if (element.kind == ElementKind::kNotebook && record.contains("selected")) {
         const std::int32_t page = record["selected"].get<std::int32_t>();
@@ -73,7 +74,8 @@ void CheckCell(const Json& record, const Element& element) {
     const Json& value = record["value"];
     switch (list.columns()[static_cast<std::size_t>(column)]) {
         case SimList::ColumnKind::kText:
-            if (!value.is_string()) throw SessionError(fmt::format("column {} of {} holds texts", column, element.name));
+            if (!value.is_string())
+                throw SessionError(fmt::format("column {} of {} holds texts", column, element.name));
             break;
         case SimList::ColumnKind::kCheck:
             if (!value.is_boolean()) {
@@ -81,7 +83,8 @@ void CheckCell(const Json& record, const Element& element) {
             }
             break;
         case SimList::ColumnKind::kIcon:
-            if (!value.is_number()) throw SessionError(fmt::format("column {} of {} holds icons", column, element.name));
+            if (!value.is_number())
+                throw SessionError(fmt::format("column {} of {} holds icons", column, element.name));
             break;
     }
 }
@@ -167,31 +170,50 @@ void CheckControl(const SimView& view, const Json& record) {
 void PutControl(SimView& view, const Json& record) {
     Element& element = *view.Find(Text(record, "name"));
     switch (element.kind) {
-        case ElementKind::kStaticText: ControlOf<SimStaticText>(element).PutText(Text(record, "text")); break;
-        case ElementKind::kPushButton: ControlOf<SimPushButton>(element).PutText(Text(record, "text")); break;
-        case ElementKind::kCheckbox: ControlOf<SimCheckbox>(element).PutChecked(record["checked"].get<bool>()); break;
-        case ElementKind::kEdit: ControlOf<SimEdit>(element).PutText(Text(record, "text")); break;
-        case ElementKind::kChoice: ControlOf<SimChoice>(element).PutSelected(Integer(record, "selected", -1)); break;
-        case ElementKind::kProgress: ControlOf<SimProgress>(element).PutValue(Integer(record, "position", 0)); break;
-        case ElementKind::kSlider: ControlOf<SimSlider>(element).PutPosition(Integer(record, "position", 0)); break;
-        case ElementKind::kNotebook: ControlOf<SimNotebook>(element).PutActive(Integer(record, "selected", 0)); break;
+        case ElementKind::kStaticText:
+            ControlOf<SimStaticText>(element).PutText(Text(record, "text"));
+            break;
+        case ElementKind::kPushButton:
+            ControlOf<SimPushButton>(element).PutText(Text(record, "text"));
+            break;
+        case ElementKind::kCheckbox:
+            ControlOf<SimCheckbox>(element).PutChecked(record["checked"].get<bool>());
+            break;
+        case ElementKind::kEdit:
+            ControlOf<SimEdit>(element).PutText(Text(record, "text"));
+            break;
+        case ElementKind::kChoice:
+            ControlOf<SimChoice>(element).PutSelected(Integer(record, "selected", -1));
+            break;
+        case ElementKind::kProgress:
+            ControlOf<SimProgress>(element).PutValue(Integer(record, "position", 0));
+            break;
+        case ElementKind::kSlider:
+            ControlOf<SimSlider>(element).PutPosition(Integer(record, "position", 0));
+            break;
+        case ElementKind::kNotebook:
+            ControlOf<SimNotebook>(element).PutActive(Integer(record, "selected", 0));
+            break;
         case ElementKind::kList: {
             const Json& value = record["value"];
             host::Cell cell = value.is_string()    ? host::Cell(value.get<std::string>())
                               : value.is_boolean() ? host::Cell(value.get<bool>())
                                                    : host::Cell(value.get<std::int32_t>());
-            ControlOf<SimList>(element).PutData(Integer(record, "column", 0), Integer(record, "row", 0), std::move(cell),
-                                                Integer(record, "sub", 0));
+            ControlOf<SimList>(element).PutData(Integer(record, "column", 0), Integer(record, "row", 0),
+                                                std::move(cell), Integer(record, "sub", 0));
             break;
         }
-        case ElementKind::kLayout: break;
+        case ElementKind::kLayout:
+            break;
     }
 }
 
 void ActOnControl(SimView& view, const Json& record) {
     Element& element = *view.Find(Text(record, "name"));
     switch (element.kind) {
-        case ElementKind::kPushButton: ControlOf<SimPushButton>(element).Press(); break;
+        case ElementKind::kPushButton:
+            ControlOf<SimPushButton>(element).Press();
+            break;
         case ElementKind::kCheckbox: {
             auto& box = ControlOf<SimCheckbox>(element);
             box.Check(record.contains("checked") ? record["checked"].get<bool>() : box.checked());
@@ -228,23 +250,34 @@ void ActOnControl(SimView& view, const Json& record) {
             break;
         case ElementKind::kStaticText:
         case ElementKind::kProgress:
-        case ElementKind::kLayout: break;
+        case ElementKind::kLayout:
+            break;
     }
 }
 
 ordered_json ControlState(const SimView& view, std::string_view name) {
     Element& element = *view.Find(name);
     switch (element.kind) {
-        case ElementKind::kStaticText: return {{"text", ControlOf<SimStaticText>(element).text()}};
-        case ElementKind::kPushButton: return {{"text", ControlOf<SimPushButton>(element).text()}};
-        case ElementKind::kCheckbox: return {{"checked", ControlOf<SimCheckbox>(element).checked()}};
-        case ElementKind::kEdit: return {{"text", ControlOf<SimEdit>(element).text()}};
-        case ElementKind::kChoice: return ChoiceState(ControlOf<SimChoice>(element));
-        case ElementKind::kList: return ListState(ControlOf<SimList>(element));
-        case ElementKind::kProgress: return {{"position", ControlOf<SimProgress>(element).value()}};
-        case ElementKind::kSlider: return {{"position", ControlOf<SimSlider>(element).position()}};
-        case ElementKind::kNotebook: return {{"selected", ControlOf<SimNotebook>(element).active()}};
-        case ElementKind::kLayout: break;
+        case ElementKind::kStaticText:
+            return {{"text", ControlOf<SimStaticText>(element).text()}};
+        case ElementKind::kPushButton:
+            return {{"text", ControlOf<SimPushButton>(element).text()}};
+        case ElementKind::kCheckbox:
+            return {{"checked", ControlOf<SimCheckbox>(element).checked()}};
+        case ElementKind::kEdit:
+            return {{"text", ControlOf<SimEdit>(element).text()}};
+        case ElementKind::kChoice:
+            return ChoiceState(ControlOf<SimChoice>(element));
+        case ElementKind::kList:
+            return ListState(ControlOf<SimList>(element));
+        case ElementKind::kProgress:
+            return {{"position", ControlOf<SimProgress>(element).value()}};
+        case ElementKind::kSlider:
+            return {{"position", ControlOf<SimSlider>(element).position()}};
+        case ElementKind::kNotebook:
+            return {{"selected", ControlOf<SimNotebook>(element).active()}};
+        case ElementKind::kLayout:
+            break;
     }
     return ordered_json::object();
 }

@@ -59,8 +59,8 @@ constexpr EventRow kEvents[] = {
     {"ACHooks_ObjectSelected", [](Client& client, const Json& record) { client.ObjectSelected(IdOf(record)); }},
     {"ACHooks_AC3DRegionChanged",
      [](Client& client, const Json& record) {
-         client.RegionChanged({Integer(record, "left"), Integer(record, "top"), Integer(record, "right"),
-                               Integer(record, "bottom")});
+         client.RegionChanged(
+             {Integer(record, "left"), Integer(record, "top"), Integer(record, "right"), Integer(record, "bottom")});
      }},
     {"World_CreateObject", [](Client& client, const Json& record) { client.CreateObject(IdOf(record)); }},
     {"World_MoveObject", [](Client& client, const Json& record) { client.MoveObject(IdOf(record)); }},

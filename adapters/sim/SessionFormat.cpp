@@ -1,13 +1,13 @@
 #include "adapters/sim/SessionFormat.h"
 
+#include <fmt/format.h>
+
 #include <array>
 #include <charconv>
 #include <chrono>
 #include <cmath>
 #include <limits>
 #include <optional>
-
-#include <fmt/format.h>
 
 #include "adapters/sim/Calls.h"
 
@@ -91,12 +91,9 @@ constexpr Field kCharacterSet[] = {{"Server", kText, kMayLack},
                                    {"AllegianceSize", kInteger, kMayLack},
                                    {"Skill", kNumbered, kMayLack},
                                    {"Augmentation", kNumbered, kMayLack}};
-constexpr Field kHooksSet[] = {{"CurrentSelection", kWord, kMayLack},
-                               {"ChatState", kFlag, kMayLack},
-                               {"BusyState", kInteger, kMayLack},
-                               {"PointerState", kInteger, kMayLack},
-                               {"CombatMode", kInteger, kMayLack},
-                               {"ReferenceContainer", kWord, kMayLack},
+constexpr Field kHooksSet[] = {{"CurrentSelection", kWord, kMayLack}, {"ChatState", kFlag, kMayLack},
+                               {"BusyState", kInteger, kMayLack},     {"PointerState", kInteger, kMayLack},
+                               {"CombatMode", kInteger, kMayLack},    {"ReferenceContainer", kWord, kMayLack},
                                {"Region3D", kRect, kMayLack}};
 constexpr Field kObjectSet[] = {{"id", kWord},
                                 {"Name", kText, kMayLack},
@@ -113,7 +110,8 @@ constexpr Field kObjectSet[] = {{"id", kWord},
                                 {"valid", kFlag, kMayLack}};
 constexpr Field kEnchantmentsSet[] = {{"list", kEnchantments, kMayLack}};
 constexpr Field kSpellsSet[] = {{"rows", kSpellRows, kMayLack}, {"available", kFlag, kMayLack}};
-constexpr Field kVendorSet[] = {{"open", kFlag, kMayLack}, {"SellRate", kNumber, kMayLack}, {"items", kWords, kMayLack}};
+constexpr Field kVendorSet[] = {
+    {"open", kFlag, kMayLack}, {"SellRate", kNumber, kMayLack}, {"items", kWords, kMayLack}};
 constexpr Field kHotkeysSet[] = {{"available", kFlag, kMayLack}, {"known", kTexts, kMayLack}};
 constexpr Field kRenderSet[] = {{"available", kFlag, kMayLack}};
 constexpr Field kFoldersSet[] = {{"documents", kWord, kMayLack}, {"common_data", kWord, kMayLack}};
@@ -133,12 +131,12 @@ constexpr Field kControlSet[] = {{"name", kText},
                                  {"value", kCell, kMayLack}};
 
 constexpr Shape kSets[] = {
-    {"clock", kClockSet},       {"character", kCharacterSet}, {"hooks", kHooksSet},
-    {"object", kObjectSet},     {"remove", kIdField},         {"enchantments", kEnchantmentsSet},
-    {"spells", kSpellsSet},     {"vendor", kVendorSet},       {"hotkeys", kHotkeysSet},
-    {"render", kRenderSet},     {"folders", kFoldersSet},     {"services", kServicesSet},
-    {"view", kViewSet},         {"world", kWorldSet},         {"keys", kKeysSet},
-    {"decal", kDecalSet},       {"control", kControlSet},
+    {"clock", kClockSet},   {"character", kCharacterSet}, {"hooks", kHooksSet},
+    {"object", kObjectSet}, {"remove", kIdField},         {"enchantments", kEnchantmentsSet},
+    {"spells", kSpellsSet}, {"vendor", kVendorSet},       {"hotkeys", kHotkeysSet},
+    {"render", kRenderSet}, {"folders", kFoldersSet},     {"services", kServicesSet},
+    {"view", kViewSet},     {"world", kWorldSet},         {"keys", kKeysSet},
+    {"decal", kDecalSet},   {"control", kControlSet},
 };
 
 constexpr Field kHudQuery[] = {{"name", kHudName}};
@@ -226,7 +224,10 @@ struct ArrayKind {
     FieldKind kind, item;
 };
 constexpr ArrayKind kArrays[] = {
-    {kWords, kWord}, {kTexts, kText}, {kIntegers, kInteger}, {kEnchantments, kEnchantment},
+    {kWords, kWord},
+    {kTexts, kText},
+    {kIntegers, kInteger},
+    {kEnchantments, kEnchantment},
 };
 
 bool IsArrayOf(const Json& value, FieldKind kind);
@@ -234,24 +235,38 @@ bool IsObjectOf(const Json& value, FieldKind kind);
 
 bool Fits(const Json& value, FieldKind kind) {
     switch (kind) {
-        case kText: return value.is_string();
-        case kFlag: return value.is_boolean();
-        case kInteger: return IsWhole(value, kLowest, kHighest);
-        case kWord: return IsWhole(value, kLowest, kHighestUnsigned);
+        case kText:
+            return value.is_string();
+        case kFlag:
+            return value.is_boolean();
+        case kInteger:
+            return IsWhole(value, kLowest, kHighest);
+        case kWord:
+            return IsWhole(value, kLowest, kHighestUnsigned);
         case kNumber:
-        case kShift: return IsNumberBetween(value, static_cast<double>(kLowest), static_cast<double>(kHighest));
-        case kSeconds: return IsNumberBetween(value, 0, static_cast<double>(kHighest));
-        case kCount: return IsWhole(value, 0, kHighest);
-        case kMoment: return value.is_string() && ParseMoment(value.get_ref<const std::string&>());
-        case kSpellId: return IsWhole(value, -0x8000, 0xFFFF);
-        case kVitalNumber: return value == 2 || value == 4 || value == 6;
-        case kCell: return value.is_string() || value.is_boolean() || IsWhole(value, kLowest, kHighest);
-        case kControlEvent: return IsOneOf(value, kControlEvents);
-        case kHudName: return IsOneOf(value, kHudNames);
-        case kRect: return value.is_array() && value.size() == 4 && IsArrayOf(value, kIntegers);
+        case kShift:
+            return IsNumberBetween(value, static_cast<double>(kLowest), static_cast<double>(kHighest));
+        case kSeconds:
+            return IsNumberBetween(value, 0, static_cast<double>(kHighest));
+        case kCount:
+            return IsWhole(value, 0, kHighest);
+        case kMoment:
+            return value.is_string() && ParseMoment(value.get_ref<const std::string&>());
+        case kSpellId:
+            return IsWhole(value, -0x8000, 0xFFFF);
+        case kVitalNumber:
+            return value == 2 || value == 4 || value == 6;
+        case kCell:
+            return value.is_string() || value.is_boolean() || IsWhole(value, kLowest, kHighest);
+        case kControlEvent:
+            return IsOneOf(value, kControlEvents);
+        case kHudName:
+            return IsOneOf(value, kHudNames);
+        case kRect:
+            return value.is_array() && value.size() == 4 && IsArrayOf(value, kIntegers);
         case kPosition:
-            return value.is_null() || (value.is_array() && value.size() == 2 && value[0].is_number() &&
-                                       value[1].is_number());
+            return value.is_null() ||
+                   (value.is_array() && value.size() == 2 && value[0].is_number() && value[1].is_number());
         case kServices:
             if (!value.is_array()) return false;
             for (const Json& item : value) {
@@ -269,18 +284,21 @@ bool Fits(const Json& value, FieldKind kind) {
                 CheckFields(row, kSpellFields, "a spell");
             }
             return true;
-        case kMessage: return value.is_object() && value.contains("Type") && Fits(value["Type"], kWord);
+        case kMessage:
+            return value.is_object() && value.contains("Type") && Fits(value["Type"], kWord);
         case kWords:
         case kTexts:
         case kIntegers:
-        case kEnchantments: return IsArrayOf(value, kind);
+        case kEnchantments:
+            return IsArrayOf(value, kind);
         case kVitals:
         case kNumbered:
         case kNamed:
         case kLongs:
         case kDoubles:
         case kFlags:
-        case kStrings: return IsObjectOf(value, kind);
+        case kStrings:
+            return IsObjectOf(value, kind);
     }
     return false;
 }
@@ -318,38 +336,67 @@ bool IsObjectOf(const Json& value, FieldKind kind) {
 
 std::string_view Description(FieldKind kind) {
     switch (kind) {
-        case kText: return "a text";
-        case kFlag: return "true or false";
-        case kInteger: return "a whole number of 32 bits";
-        case kWord: return "a whole number of 32 bits, signed or unsigned";
+        case kText:
+            return "a text";
+        case kFlag:
+            return "true or false";
+        case kInteger:
+            return "a whole number of 32 bits";
+        case kWord:
+            return "a whole number of 32 bits, signed or unsigned";
         case kNumber:
-        case kShift: return "a number";
-        case kSeconds: return "a number of seconds, 0 or more";
-        case kCount: return "a whole number, 0 or more";
-        case kMoment: return "a moment as 2006-03-05T12:00:00Z";
-        case kSpellId: return "a whole number of 16 bits, signed or unsigned";
-        case kVitalNumber: return "2, 4 or 6";
-        case kCell: return "a text, a whole number of 32 bits, true or false";
-        case kControlEvent: return "Change, End or Accepted";
-        case kHudName: return "Main, Clock, Item, Status or Target";
-        case kRect: return "an array of left, top, right, bottom";
-        case kPosition: return "an array of ns, ew, or null";
+        case kShift:
+            return "a number";
+        case kSeconds:
+            return "a number of seconds, 0 or more";
+        case kCount:
+            return "a whole number, 0 or more";
+        case kMoment:
+            return "a moment as 2006-03-05T12:00:00Z";
+        case kSpellId:
+            return "a whole number of 16 bits, signed or unsigned";
+        case kVitalNumber:
+            return "2, 4 or 6";
+        case kCell:
+            return "a text, a whole number of 32 bits, true or false";
+        case kControlEvent:
+            return "Change, End or Accepted";
+        case kHudName:
+            return "Main, Clock, Item, Status or Target";
+        case kRect:
+            return "an array of left, top, right, bottom";
+        case kPosition:
+            return "an array of ns, ew, or null";
         case kServices:
             return "an array of World, CharacterStats, EchoFilter2, Spells, RenderService, Hotkeys";
-        case kEnchantment: return "an enchantment";
-        case kSpellRows: return "an array of spells";
-        case kMessage: return "an object with a Type of 32 bits";
-        case kWords: return "an array of ids";
-        case kTexts: return "an array of texts";
-        case kIntegers: return "an array of whole numbers of 32 bits";
-        case kEnchantments: return "an array of enchantments";
-        case kVitals: return "an object from 2, 4, 6 to whole numbers";
-        case kNumbered: return "an object from numbers to whole numbers";
-        case kNamed: return "an object from names to whole numbers";
-        case kLongs: return "an object from keys to whole numbers of 32 bits, or null";
-        case kDoubles: return "an object from keys to numbers, or null";
-        case kFlags: return "an object from keys to true or false, or null";
-        case kStrings: return "an object from keys to texts, or null";
+        case kEnchantment:
+            return "an enchantment";
+        case kSpellRows:
+            return "an array of spells";
+        case kMessage:
+            return "an object with a Type of 32 bits";
+        case kWords:
+            return "an array of ids";
+        case kTexts:
+            return "an array of texts";
+        case kIntegers:
+            return "an array of whole numbers of 32 bits";
+        case kEnchantments:
+            return "an array of enchantments";
+        case kVitals:
+            return "an object from 2, 4, 6 to whole numbers";
+        case kNumbered:
+            return "an object from numbers to whole numbers";
+        case kNamed:
+            return "an object from names to whole numbers";
+        case kLongs:
+            return "an object from keys to whole numbers of 32 bits, or null";
+        case kDoubles:
+            return "an object from keys to numbers, or null";
+        case kFlags:
+            return "an object from keys to true or false, or null";
+        case kStrings:
+            return "an object from keys to texts, or null";
     }
     return {};
 }
@@ -469,8 +516,8 @@ RecordKind CheckRecord(const Json& record) {
     for (std::size_t i = 0; i < kRecordKeys.size(); ++i) {
         if (!record.contains(kRecordKeys[i])) continue;
         if (kind) {
-            throw SessionError(fmt::format("has both \"{}\" and \"{}\"",
-                                           kRecordKeys[static_cast<std::size_t>(*kind)], kRecordKeys[i]));
+            throw SessionError(fmt::format("has both \"{}\" and \"{}\"", kRecordKeys[static_cast<std::size_t>(*kind)],
+                                           kRecordKeys[i]));
         }
         kind = static_cast<RecordKind>(i);
     }
@@ -480,12 +527,24 @@ RecordKind CheckRecord(const Json& record) {
         throw SessionError(fmt::format("\"at\" must be {}", Description(kSeconds)));
     }
     switch (*kind) {
-        case RecordKind::kEvent: CheckNamed(record, "event", kEvents); break;
-        case RecordKind::kSet: CheckNamed(record, "set", kSets); break;
-        case RecordKind::kQuery: CheckNamed(record, "query", kQueries); break;
-        case RecordKind::kAdvance: CheckFields(record, kAdvanceFields, "advance", true); break;
-        case RecordKind::kFail: CheckFail(record); break;
-        case RecordKind::kNote: CheckFields(record, kNoteFields, "note", true); break;
+        case RecordKind::kEvent:
+            CheckNamed(record, "event", kEvents);
+            break;
+        case RecordKind::kSet:
+            CheckNamed(record, "set", kSets);
+            break;
+        case RecordKind::kQuery:
+            CheckNamed(record, "query", kQueries);
+            break;
+        case RecordKind::kAdvance:
+            CheckFields(record, kAdvanceFields, "advance", true);
+            break;
+        case RecordKind::kFail:
+            CheckFail(record);
+            break;
+        case RecordKind::kNote:
+            CheckFields(record, kNoteFields, "note", true);
+            break;
     }
     if (kind == RecordKind::kEvent && record["event"] == "Control") StateOf(record, "event Control");
     if (kind == RecordKind::kSet && record["set"] == "control") {

@@ -2,12 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <nlohmann/json.hpp>
 #include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
-
-#include <nlohmann/json.hpp>
 
 namespace ombrel::sim {
 
@@ -22,35 +21,35 @@ public:
 enum class FieldKind : std::uint8_t {
     kText,
     kFlag,
-    kInteger,     // 32 bits, signed
-    kWord,        // 32 bits, signed or unsigned: ids, property values, message parameters
-    kNumber,      // decimals too
-    kSeconds,     // decimals too, from 0
-    kShift,       // seconds, backwards too
-    kCount,       // a whole number from 0
-    kMoment,      // "2006-03-05T12:00:00Z"
-    kSpellId,     // 16 bits, signed or unsigned
+    kInteger,      // 32 bits, signed
+    kWord,         // 32 bits, signed or unsigned: ids, property values, message parameters
+    kNumber,       // decimals too
+    kSeconds,      // decimals too, from 0
+    kShift,        // seconds, backwards too
+    kCount,        // a whole number from 0
+    kMoment,       // "2006-03-05T12:00:00Z"
+    kSpellId,      // 16 bits, signed or unsigned
     kVitalNumber,  // 2, 4 or 6
-    kRect,        // [left, top, right, bottom]
-    kPosition,    // [ns, ew], or null for none
-    kWords,       // arrays of ...
+    kRect,         // [left, top, right, bottom]
+    kPosition,     // [ns, ew], or null for none
+    kWords,        // arrays of ...
     kTexts,
     kIntegers,
-    kServices,      // names of services
+    kServices,  // names of services
     kEnchantments,
     kSpellRows,
-    kEnchantment,   // objects of ...
+    kEnchantment,  // objects of ...
     kMessage,
-    kVitals,        // "2", "4", "6" to integers
-    kNumbered,      // number to integer
-    kNamed,         // name to integer
-    kLongs,         // number to word, or null, which takes the key away
+    kVitals,    // "2", "4", "6" to integers
+    kNumbered,  // number to integer
+    kNamed,     // name to integer
+    kLongs,     // number to word, or null, which takes the key away
     kDoubles,
     kFlags,
     kStrings,
     kControlEvent,  // "Change", "End" or "Accepted"
     kHudName,
-    kCell,          // of a list: a text, an integer or a flag
+    kCell,  // of a list: a text, an integer or a flag
 };
 
 enum class Need : std::uint8_t { kRequired, kOptional };
@@ -78,10 +77,10 @@ std::span<const Shape> QueryShapes();
 RecordKind CheckRecord(const Json& record);
 
 // Values of a record that has been checked.
-std::int32_t Word(const Json& value);           // an unsigned one wraps
-std::int32_t SpellIdOf(const Json& value);      // an unsigned one of 16 bits wraps
-std::int64_t Milliseconds(const Json& seconds);  // rounded
+std::int32_t Word(const Json& value);             // an unsigned one wraps
+std::int32_t SpellIdOf(const Json& value);        // an unsigned one of 16 bits wraps
+std::int64_t Milliseconds(const Json& seconds);   // rounded
 std::int64_t MomentOf(std::string_view iso8601);  // milliseconds since 1970
-std::int32_t KeyOf(std::string_view number);     // a property key: "218103810"
+std::int32_t KeyOf(std::string_view number);      // a property key: "218103810"
 
 }  // namespace ombrel::sim

@@ -29,9 +29,7 @@ bool NamesControl(const Json& record) {
 
 }  // namespace
 
-SessionPlayer::SessionPlayer(Client& client, Recorder* recorder) : client_(client), recorder_(recorder) {
-    SetDefaults(client_);
-}
+SessionPlayer::SessionPlayer(Client& client, Recorder* recorder) : client_(client), recorder_(recorder) {}
 
 SessionPlayer::~SessionPlayer() = default;
 
@@ -67,11 +65,21 @@ void SessionPlayer::CheckNow(const Record& record) {
 
 void SessionPlayer::Run(const Record& record) {
     switch (record.kind) {
-        case RecordKind::kEvent: Event(record.json); break;
-        case RecordKind::kSet: Set(record.json); break;
-        case RecordKind::kAdvance: Advance(record.json); break;
-        case RecordKind::kQuery: Query(record.json); break;
-        case RecordKind::kFail: Fail(record.json); break;
+        case RecordKind::kEvent:
+            Event(record.json);
+            break;
+        case RecordKind::kSet:
+            Set(record.json);
+            break;
+        case RecordKind::kAdvance:
+            Advance(record.json);
+            break;
+        case RecordKind::kQuery:
+            Query(record.json);
+            break;
+        case RecordKind::kFail:
+            Fail(record.json);
+            break;
         case RecordKind::kNote:
             if (recorder_) recorder_->Note(TextOf(record.json, "note"));
             break;
@@ -115,7 +123,8 @@ void SessionPlayer::Advance(const Json& record) {
 void SessionPlayer::Fail(const Json& record) {
     const std::int32_t times = record.contains("times") ? record["times"].get<std::int32_t>() : 1;
     const std::int32_t number = Word(record["number"]);
-    const std::string_view description = record.contains("description") ? TextOf(record, "description") : FailureText(number);
+    const std::string_view description =
+        record.contains("description") ? TextOf(record, "description") : FailureText(number);
     client_.calls.Fail(*FindOperation(TextOf(record, "fail")), times, number, std::string(description));
 }
 

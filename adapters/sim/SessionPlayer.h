@@ -15,8 +15,8 @@ namespace ombrel::sim {
 
 class SessionPlayer {
 public:
-    // Puts the client into the state that a session starts from. The recorder, which may be nothing, hears results, answers
-    // and notes; calls it hears from the client. Both must outlive the player.
+    // The recorder, which may be nothing, hears results, answers and notes; calls it hears from the client. Both must
+    // outlive the player.
     SessionPlayer(Client& client, Recorder* recorder);
     ~SessionPlayer();
 

@@ -1,9 +1,9 @@
 #include "adapters/sim/SessionReader.h"
 
+#include <fmt/format.h>
+
 #include <set>
 #include <vector>
-
-#include <fmt/format.h>
 
 namespace ombrel::sim {
 namespace {
@@ -15,14 +15,19 @@ class DuplicateGuard {
 public:
     bool operator()(int, Json::parse_event_t event, Json& parsed) {
         switch (event) {
-            case Json::parse_event_t::object_start: keys_.emplace_back(); break;
-            case Json::parse_event_t::object_end: keys_.pop_back(); break;
+            case Json::parse_event_t::object_start:
+                keys_.emplace_back();
+                break;
+            case Json::parse_event_t::object_end:
+                keys_.pop_back();
+                break;
             case Json::parse_event_t::key:
                 if (!keys_.back().insert(parsed.get<std::string>()).second) {
                     throw SessionError(fmt::format("\"{}\" stands twice", parsed.get_ref<const std::string&>()));
                 }
                 break;
-            default: break;
+            default:
+                break;
         }
         return true;
     }
@@ -31,7 +36,8 @@ private:
     std::vector<std::set<std::string>> keys_;
 };
 
-// What the JSON library says, without its own name and number for it: "[json.exception.parse_error.101] parse error ...".
+// What the JSON library says, without its own name and number for it: "[json.exception.parse_error.101] parse error
+// ...".
 std::string_view Reason(std::string_view what) {
     const std::size_t end = what.find("] ");
     return end == std::string_view::npos ? what : what.substr(end + 2);

@@ -10,8 +10,6 @@
 namespace ombrel::sim {
 namespace {
 
-constexpr std::string_view kStart = "2006-03-05T12:00:00Z";
-
 // Reads a field into `target` where the record has it.
 template <class T>
 void Read(const Json& record, const char* field, T& target) {
@@ -91,7 +89,8 @@ void SetObject(Client& client, const Json& record) {
     if (record.contains("Container")) object.Container = Word(record["Container"]);
     if (const auto place = record.find("Coordinates"); place != record.end()) {
         object.Coordinates.reset();
-        if (!place->is_null()) object.Coordinates = host::Position{(*place)[0].get<double>(), (*place)[1].get<double>()};
+        if (!place->is_null())
+            object.Coordinates = host::Position{(*place)[0].get<double>(), (*place)[1].get<double>()};
     }
     Read(record, "LastIdTime", object.LastIdTime);
     Read(record, "HasIdData", object.HasIdData);
@@ -107,15 +106,34 @@ void SetEnchantments(Client& client, const Json& record) {
     if (list == record.end()) return;
     client.enchantments.clear();
     for (const Json& entry : *list) {
-        ActiveEnchantment enchantment{.SpellID = SpellIdOf(entry["SpellID"]), .Family = entry.value("Family", 0)};
-        const double remaining = entry.value("TimeRemaining", 0.0);
-        if (remaining > 0) {
-            enchantment.ends = client.clock.now() + Milliseconds(entry["TimeRemaining"]);
-        } else {
-            enchantment.permanent = static_cast<std::int32_t>(remaining);
-        }
-        client.enchantments.push_back(enchantment);
+        client.Enchant(SpellIdOf(entry["SpellID"]), entry.value("TimeRemaining", 0.0), entry.value("Family", 0));
     }
+}
+
+// A column that a row leaves out is empty.
+SpellRow SpellOf(const Json& json) {
+    SpellRow row;
+    for (const SpellColumn& column : SpellColumns()) {
+        const auto value = json.find(column.name);
+        if (value == json.end()) continue;
+        std::visit(
+            [&](auto member) {
+                if constexpr (std::is_same_v<decltype(member), std::int32_t SpellRow::*>) {
+                    row.*member = Word(*value);
+                } else {
+                    value->get_to(row.*member);
+                }
+            },
+            column.member);
+    }
+    return row;
+}
+
+void SetSpells(Client& client, const Json& record) {
+    if (const auto rows = record.find("rows"); rows != record.end()) {
+        for (const Json& row : *rows) client.spells.Put(SpellOf(row));
+    }
+    Read(record, "available", client.spells_available);
 }
 
 void SetVendor(Client& client, const Json& record) {
@@ -185,26 +203,6 @@ constexpr SetRow kSets[] = {
 };
 
 }  // namespace
-
-void SetDefaults(Client& client) {
-    client.clock.SetEpoch(MomentOf(kStart));
-    client.system.zone = {};
-    client.sheet = {.Server = "Alpha",
-                    .Name = "Bob",
-                    .Character = 1342177281,
-                    .Level = 1,
-                    .Health = 100,
-                    .Stamina = 100,
-                    .Mana = 100,
-                    .Vital = {{host::vital::kHealth, 100}, {host::vital::kStamina, 100}, {host::vital::kMana, 100}},
-                    .Vitae = 100,
-                    .Followers = 0,
-                    .AllegianceSize = 1,
-                    .Skill = {},
-                    .Augmentation = {}};
-    client.hooks = {};
-    client.hooks.Region3D = {0, 0, 800, 600};
-}
 
 void ApplySet(Client& client, const Json& record) {
     const std::string& name = record["set"].get_ref<const std::string&>();

@@ -6,9 +6,6 @@
 
 namespace ombrel::sim {
 
-// The state that a session starts from where it sets nothing.
-void SetDefaults(Client& client);
-
 // Applies a set record. The view must be there for what is set of it.
 void ApplySet(Client& client, const Json& record);
 

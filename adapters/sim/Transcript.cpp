@@ -1,9 +1,9 @@
 #include "adapters/sim/Transcript.h"
 
+#include <fmt/format.h>
+
 #include <array>
 #include <iterator>
-
-#include <fmt/format.h>
 
 namespace ombrel::sim {
 namespace {
@@ -52,14 +52,16 @@ void Transcript::Show(const Client::ChatLine& line) {
     const bool ansi = colors_ == Colors::kAnsi;
     buffer_.clear();
     if (ansi) buffer_ += kDim;
-    fmt::format_to(std::back_inserter(buffer_), "[{:02}:{:02}:{:02}] ", seconds / 3600, seconds / 60 % 60, seconds % 60);
+    fmt::format_to(std::back_inserter(buffer_), "[{:02}:{:02}:{:02}] ", seconds / 3600, seconds / 60 % 60,
+                   seconds % 60);
     buffer_ += line.window >= 2 ? fmt::format("[{:>4}] ", line.window - 1) : std::string("[main] ");
     const std::size_t margin = buffer_.size() - (ansi ? kDim.size() : 0);
     if (ansi) buffer_ += kReset;
 
     if (ansi && line.color >= 0 && static_cast<std::size_t>(line.color) < kChatColors.size()) {
         const std::uint32_t color = kChatColors[static_cast<std::size_t>(line.color)];
-        fmt::format_to(std::back_inserter(buffer_), "\x1b[38;2;{};{};{}m", color >> 16, color >> 8 & 0xFF, color & 0xFF);
+        fmt::format_to(std::back_inserter(buffer_), "\x1b[38;2;{};{};{}m", color >> 16, color >> 8 & 0xFF,
+                       color & 0xFF);
     }
     for (const char character : text) {
         buffer_ += character;
