@@ -153,7 +153,7 @@ void JsonLine::Add(std::string_view name, const host::Rect& value) {
     fmt::format_to(std::back_inserter(out_), "[{}, {}, {}, {}]", value.left, value.top, value.right, value.bottom);
 }
 
-void JsonLine::Add(std::string_view name, const OrderedJson& value) {
+void JsonLine::AddJson(std::string_view name, const OrderedJson& value) {
     Name(name);
     AppendValue(out_, value);
 }

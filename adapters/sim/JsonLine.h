@@ -24,7 +24,7 @@ public:
     void Add(std::string_view name, double value);
     void Add(std::string_view name, bool value);
     void Add(std::string_view name, const host::Rect& value);
-    void Add(std::string_view name, const nlohmann::ordered_json& value);
+    void AddJson(std::string_view name, const nlohmann::ordered_json& value);
     void End() { out_ += "}\n"; }
 
 private:

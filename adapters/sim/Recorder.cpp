@@ -69,7 +69,7 @@ void Recorder::Answer(std::string_view query, std::string_view name, const nlohm
     line.At(clock_.now());
     line.Add("answer", query);
     if (!name.empty()) line.Add("name", name);
-    for (const auto& [key, value] : fields.items()) line.Add(key, value);
+    for (const auto& [key, value] : fields.items()) line.AddJson(key, value);
     line.End();
     Wrote();
 }

@@ -14,7 +14,7 @@ TEST(JsonLine, WritesTheStyleOfTheFormat) {
     line.Add("seconds", 1e20);
     line.Add("whole", 30.0);
     line.Add("ok", true);
-    line.Add("rows", nlohmann::ordered_json::parse(R"([["a", 1, true], {"icon": 116, "library": 0.5}])"));
+    line.AddJson("rows", nlohmann::ordered_json::parse(R"([["a", 1, true], {"icon": 116, "library": 0.5}])"));
     line.End();
     EXPECT_EQ(
         out, R"({"at": 5.25, "call": "SetRegion", "rect": [1, 2, 3, -4], "seconds": 1e+20, "whole": 30.0, "ok": true, )"
