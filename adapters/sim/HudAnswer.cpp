@@ -11,25 +11,40 @@ namespace {
 
 using nlohmann::ordered_json;
 
-template <class Canvas>
-ordered_json CanvasFields(const Canvas& canvas) {
-    return {{"enabled", canvas.Enabled()},
-            {"x", canvas.x()},
-            {"y", canvas.y()},
-            {"title", canvas.title},
-            {"drawTitle", canvas.DrawTitle},
-            {"dockVert", canvas.DockVert},
-            {"dockHorz", canvas.DockHorz},
-            {"outline", canvas.Outline},
-            {"background", canvas.BackgroundColor},
-            {"fontFace", canvas.FontFace()},
-            {"fontSize", canvas.FontSize()}};
+ordered_json FrameFields(const HudFrame& frame) {
+    return {{"enabled", frame.Enabled()},
+            {"x", frame.x()},
+            {"y", frame.y()},
+            {"width", frame.width()},
+            {"height", frame.height()},
+            {"title", frame.title()},
+            {"drawTitle", frame.DrawTitle},
+            {"fade", frame.Fade()},
+            {"dockVert", frame.DockVert},
+            {"dockHorz", frame.DockHorz},
+            {"outline", frame.Outline},
+            {"background", frame.BackgroundColor},
+            {"fontFace", frame.FontFace()},
+            {"fontSize", frame.FontSize()}};
 }
 
-ordered_json Fields(const HUDHandler& canvas) { return CanvasFields(canvas); }
+ordered_json Fields(const HUDHandler& canvas) {
+    ordered_json fields = FrameFields(canvas.frame);
+    ordered_json items = ordered_json::array();
+    for (const auto& [key, item] : canvas.items()) {
+        items.push_back({{"key", key},
+                         {"text", item.data},
+                         {"color", item.color},
+                         {"alpha", item.alpha},
+                         {"icon", item.icon},
+                         {"newline", item.newline}});
+    }
+    fields["items"] = std::move(items);
+    return fields;
+}
 
 ordered_json Fields(const HudHandlerT& canvas) {
-    ordered_json fields = CanvasFields(canvas);
+    ordered_json fields = FrameFields(canvas.frame);
     fields["object"] = canvas.Object() ? canvas.Object()->GUID() : 0;
     return fields;
 }
