@@ -7,7 +7,7 @@ namespace ombrel::replay {
 namespace fs = std::filesystem;
 
 TemporaryFolder::TemporaryFolder() {
-    const fs::path parent = fs::temp_directory_path();
+    const fs::path parent = fs::absolute(fs::temp_directory_path()).lexically_normal();
     for (int number = 1; path_.empty(); ++number) {
         const fs::path candidate = parent / fmt::format("ombrel-replay-{}", number);
         if (!fs::create_directory(candidate)) continue;

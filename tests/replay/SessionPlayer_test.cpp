@@ -27,8 +27,9 @@ TEST(SessionPlayer, StartsThePluginBeforeTheFirstEvent) {
     EXPECT_THAT(replay.Output(), ElementsAre(R"({"at": 5.0, "answer": "view"})"));
 
     replay.Play(R"({"at": 8, "event": "ACHooks_StatusTextIntercept", "text": "x"})");
-    EXPECT_THAT(replay.Output(), ElementsAre(R"({"at": 5.0, "call": "LoadView"})",
-                                             R"({"at": 8.0, "result": "ACHooks_StatusTextIntercept", "eat": false})"));
+    const auto output = replay.Output();
+    EXPECT_THAT(output, Contains(R"({"at": 5.0, "call": "LoadView"})"));
+    EXPECT_EQ(output.back(), R"({"at": 8.0, "result": "ACHooks_StatusTextIntercept", "eat": false})");
     EXPECT_TRUE(replay.client.missing_services.contains("Spells"));
 }
 
