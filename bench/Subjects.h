@@ -1,0 +1,12 @@
+// What is measured, one file a subject.
+#pragma once
+
+namespace ombrel::bench {
+
+void AddSorting();   // a chat line to its row, beside other matchers
+void AddChatRoad();  // the whole road of a chat line
+void AddMessages();  // server messages that don't matter
+void AddSettings();  // saving the settings, beside bare XML
+void AddReplay();    // 100,000 lines through a session
+
+}  // namespace ombrel::bench
