@@ -49,6 +49,26 @@ public:
 
     void HudOn_Change();
 
+    // What controls do when the player changes them. SaveOption serves all that are only stored.
+    void SaveOption();
+    void SaveList(std::int32_t column, std::int32_t row);
+    void ResetTime_Accepted();
+    void OutputWindow_Change();
+    void ChatColor_Change(std::int32_t column, std::int32_t row);
+    void ChatColorColor_Change();
+    void ChatColorWindow_Change();
+    void ChatColorSound_Change();
+    void ChatCustom_Change(std::int32_t column, std::int32_t row);
+    void ChatCustomAdd_Accepted();
+    void ChatCustomEdit_Accepted();
+    void ChatCustomDelete_Accepted();
+    void ChatCustomUp_Accepted();
+    void ChatCustomDown_Accepted();
+    void FilterAdd_Accepted();
+    void ChatFilter_Change(std::int32_t column, std::int32_t row);
+    void AliasAdd_Accepted();
+    void ChatAlias_Change(std::int32_t column, std::int32_t row);
+
     // Each turns a HUD on or off, as its "X" button does.
     void ToggleAll();
     void ToggleMain();
@@ -242,6 +262,13 @@ public:
     Ref<host::Slider> VitalsFallbackSlider;
 
 private:
+    void WriteCustomRule(std::int32_t row);
+    void MoveCustomRule(std::int32_t by);
+    bool HasCustomRow() const;
+
+    std::int32_t chat_color_row_ = 0;  // the marked rows
+    std::int32_t chat_custom_row_ = -1;
+
     template <class Row>
     void Bind(const Row& row);
     void FillSoundChoices();

@@ -10,6 +10,14 @@ void SetMarker(host::List& list, std::int32_t column, std::int32_t row, std::int
     list.SetData(column, row, icon, 1);
 }
 
+void MoveMark(host::List& list, std::int32_t& marked, std::int32_t row) {
+    constexpr std::int32_t kNameColumn = 1;
+    constexpr std::int32_t kPlain = 0x00FFFFFF;
+    if (marked >= 0 && marked < list.Count()) list.SetColor(kNameColumn, marked, kPlain);
+    list.SetColor(kNameColumn, row, kHighlight);
+    marked = row;
+}
+
 void SelectText(host::Choice& choice, std::string_view text) {
     const std::int32_t count = choice.Count();
     for (std::int32_t index = 0; index < count; ++index) {

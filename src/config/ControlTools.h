@@ -24,6 +24,9 @@ void SetMarker(host::List& list, std::int32_t column, std::int32_t row, std::int
 // The mark of the row that the detail choices show.
 constexpr std::int32_t kHighlight = 0xFFFF80;
 
+// Moves the mark to another row, which `marked` names from then on.
+void MoveMark(host::List& list, std::int32_t& marked, std::int32_t row);
+
 // Selects the first entry of a choice whose text is `text`; without one the selection stays.
 void SelectText(host::Choice& choice, std::string_view text);
 

@@ -146,6 +146,8 @@ void ControlHandler::Init_Lists(std::span<const std::int32_t> versionParts) try 
         SetMarker(*HudClockList, 4, row, white);
     }
 
+    chat_color_row_ = 0;
+    chat_custom_row_ = -1;
     for (const auto list : Lists{&ControlHandler::ChatColor, &ControlHandler::HudList, &ControlHandler::HudGeneral,
                                  &ControlHandler::HudClockList}) {
         (this->*list)->SetColor(1, 0, kHighlight);
