@@ -15,6 +15,7 @@ using Row = std::initializer_list<host::Cell>;
 void Fill(SimView& view, std::string_view name, std::initializer_list<Row> rows, std::int32_t marked = -1) {
     auto* list = view.Get<SimList>(name);
     if (!list) return;
+    list->Clear();
     for (const Row& cells : rows) {
         const std::int32_t row = list->AddRow();
         std::int32_t column = 0;
@@ -62,28 +63,6 @@ void FillTexts(SimView& view) {
 
 void FillSampleRows(SimView& view) {
     FillTexts(view);
-    Fill(view, "HUD_General",
-         {{true, "Main", "Arial", "16", 116, "50%", false},
-          {true, "Clock", "Courier", "14", 116, "100%", true},
-          {true, "Items", "Palatino", "16", 119, "50%", false},
-          {false, "Status", "Franklin", "18", 116, "0%", true},
-          {true, "Target", "Verdana", "16", 130, "70%", false}},
-         0);
-    Fill(view, "HUD_LIST",
-         {{true, "Level", 101},
-          {true, "Session Time", 124},
-          {true, "Session XP", 123},
-          {false, "Session XP/Hour", 119},
-          {false, "5 Minute Avg", 130},
-          {true, "Total Time", 117}},
-         0);
-    Fill(view, "HUD_Clock",
-         {{false, "Down Timer", "", "00:04:12", 101},
-          {false, "Up Timer", "", "", 101},
-          {true, "Date", "", "12/31/2006", 101},
-          {true, "Your Time", "", "07:45 PM", 124},
-          {true, "Game Time", "-5", "02:45 PM", 101}},
-         0);
     Fill(view, "HUD_Items",
          {{true, "Prismatic Taper", "250", kUp, kDown, kDelete, "8202"},
           {true, "Treated Healing Kit", "5", kUp, kDown, kDelete, "7241"},
@@ -100,21 +79,6 @@ void FillSampleRows(SimView& view) {
           {"102.4S, 88.9E", "99.9S, 50.0E", "05:07", kDelete},
           {"Dungeon", "0.0N, 0.0E", "3:20:00", kDelete}},
          0);
-    Fill(view, "Chat_Options",
-         {{true, "Show All XP Changes"},
-          {true, "Kill: Show Unassigned XP"},
-          {false, "Kill: Show XP to Level"},
-          {true, "Combine Item Spell Cast and Expire"},
-          {false, "Send Rare Message to All Windows"},
-          {true, "Show Friends Online on Login"}});
-    Fill(view, "Chat_Color",
-         {{true, "Ombrel", "D", 111, "None"},
-          {false, "Open Chat In", "D", 114, "None"},
-          {true, "Tells In", "1", 109, "bell.wav"},
-          {false, "Enemy Melee Combat", "B", 103, "None"},
-          {false, "Enemy War Combat", "M", 104, "None"},
-          {false, "Fellowship Out", "D", 114, "None"}},
-         0);
     Fill(view, "Chat_Custom",
          {{true, "*is looking for*", "M2", "All", 113, "bell.wav", "[]Look!"},
           {true, "You have killed*", "D", "0", 108, "None", ""},
@@ -128,10 +92,6 @@ void FillSampleRows(SimView& view) {
           {"You tell Bob, \"Wait for me!\"", "4"},
           {"[General] Elle: selling tapers", "3"},
           {"Tyla tells you, \"Hello\"", "2"}});
-    for (const std::string name : {"Open Chat", "Tells", "Fellowship", "Patron/Covassal", "Vassal", "Allegiance",
-                                   "Channels", "Magic", "Spellwords", "Combat", "System", "Recalls", "Tinkers", "Rares",
-                                   "Stat Raises", "Level", "Vitae", "Ombrel", "Other"})
-        Fill(view, "Chat_Log_Options", {{"", name, true, "", name < "M"}});
     Fill(view, "Vitals_listExceptions", {{"Golden Egg", kDelete}, {"Healing Kit of the Ancients", kDelete}});
 }
 
