@@ -1,5 +1,5 @@
-// Cells of list controls, read in the kind that the reader needs. A cell of another kind converts where that makes sense
-// and is failure 13 where it doesn't.
+// Cells of list controls, read in the kind that the reader needs. A cell of another kind converts where that makes
+// sense and is failure 13 where it doesn't.
 #pragma once
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 // Moments and dates.
 //
-// A moment is whole seconds since 1 January 1970, universal time. A date is a count of days as the player's clock shows it,
-// with 25569 being 1 January 1970. Both read the host's clock and zone only.
+// A moment is whole seconds since 1 January 1970, universal time. A date is a count of days as the player's clock shows
+// it, with 25569 being 1 January 1970. Both read the host's clock and zone only.
 #pragma once
 
 #include <cstdint>
@@ -28,9 +28,9 @@ struct DateFields {
 };
 DateFields FieldsOf(Date date);
 
-std::string FormatGeneralDate(Date date);  // "7/4/2024 1:05:09 PM"; a time of day of midnight is left out
-std::string FormatIsoDay(Date date);       // "2024-07-04"
-std::string FormatShortDate(Date date);    // "7/4/2024"
+std::string FormatGeneralDate(Date date);          // "7/4/2024 1:05:09 PM"; a time of day of midnight is left out
+std::string FormatIsoDay(Date date);               // "2024-07-04"
+std::string FormatShortDate(Date date);            // "7/4/2024"
 std::string FormatClock(Date date, bool hours24);  // "13:05" or "01:05 PM"
 
 }  // namespace ombrel

@@ -41,7 +41,6 @@ public:
     void CorpseDisappear(double ns, double ew, host::Id guid);
     std::string GetCorpse();  // where the selected corpse lies, for chat
 
-
     std::deque<CorpseInfo> Corpses;  // in the order of filing
 
 private:

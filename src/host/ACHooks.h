@@ -1,7 +1,7 @@
 // The client itself: its chat windows, its state, and what a player can do with objects.
 //
-// Text is UTF-8 on this side; the adapter converts. Everything happens on the client's thread, and events may arrive while
-// a call of ours is still under way. A call that fails throws Failure.
+// Text is UTF-8 on this side; the adapter converts. Everything happens on the client's thread, and events may arrive
+// while a call of ours is still under way. A call that fails throws Failure.
 #pragma once
 
 #include <cstdint>
@@ -30,13 +30,13 @@ public:
     // After how many idle seconds the client logs the character out.
     virtual void SetIdleTime(double seconds) = 0;
 
-    virtual Id CurrentSelection() const = 0;         // 0 for none
-    virtual bool ChatState() const = 0;              // the chat input is open
-    virtual std::int32_t BusyState() const = 0;      // 0 when the character is free to act
-    virtual std::int32_t PointerState() const = 0;   // image of the pointer
-    virtual std::int32_t CombatMode() const = 0;     // 1 peace, 2 melee, 4 missile, 8 magic
-    virtual Id ReferenceContainer() const = 0;       // the open vendor, 0 for none
-    virtual Rect Region3D() const = 0;               // the 3D area of the client's window
+    virtual Id CurrentSelection() const = 0;        // 0 for none
+    virtual bool ChatState() const = 0;             // the chat input is open
+    virtual std::int32_t BusyState() const = 0;     // 0 when the character is free to act
+    virtual std::int32_t PointerState() const = 0;  // image of the pointer
+    virtual std::int32_t CombatMode() const = 0;    // 1 peace, 2 melee, 4 missile, 8 magic
+    virtual Id ReferenceContainer() const = 0;      // the open vendor, 0 for none
+    virtual Rect Region3D() const = 0;              // the 3D area of the client's window
 
     // Whether the client still knows the object. Ask before each item action: objects go without notice.
     virtual bool IsValidObject(Id id) const = 0;

@@ -1,7 +1,7 @@
 // The options view and its controls.
 //
-// Setting a value raises no event; an event tells what the player did, after the control has changed. A reference that a
-// reading call returns holds until the next call on the same control.
+// Setting a value raises no event; an event tells what the player did, after the control has changed. A reference that
+// a reading call returns holds until the next call on the same control.
 #pragma once
 
 #include <cstdint>
@@ -84,8 +84,8 @@ public:
     virtual std::int32_t ScrollPosition() const = 0;
     virtual void SetScrollPosition(std::int32_t position) = 0;
 
-    // Moves with every change of a cell's value or of the number of rows, whoever made it: what has been worked out of the
-    // list holds while this stands. Never fails and costs no more than reading a number.
+    // Moves with every change of a cell's value or of the number of rows, whoever made it: what has been worked out of
+    // the list holds while this stands. Never fails and costs no more than reading a number.
     virtual std::uint32_t Revision() const = 0;
 
     // A click. A click on a check cell has flipped it already.

@@ -13,8 +13,8 @@ namespace ombrel::host {
 class MessageMember;
 using MessageMemberPtr = std::unique_ptr<const MessageMember>;
 
-// A structure or a list inside a message. Fields go by the names of the framework's message table, which compare without
-// case. Reading a field that is not there throws Failure.
+// A structure or a list inside a message. Fields go by the names of the framework's message table, which compare
+// without case. Reading a field that is not there throws Failure.
 class MessageMember {
 public:
     virtual ~MessageMember() = default;

@@ -30,16 +30,16 @@ public:
     // options 1: bold
     virtual std::unique_ptr<Font> CreateFont(std::string_view face, std::int32_t size, std::int32_t options) = 0;
 
-    // The hotkey service is another plug-in, found by class id; nothing when it is not installed. It may come later than we
-    // do: look it up at login.
+    // The hotkey service is another plug-in, found by class id; nothing when it is not installed. It may come later
+    // than we do: look it up at login.
     virtual std::unique_ptr<HotkeyService> GetHotkeyService(std::string_view class_id) = 0;
 
     // The virtual key code bound to an action of the client, as "CaptureScreenshot".
     virtual std::int32_t MapKey(std::string_view action) = 0;
 };
 
-// Handed to a plug-in at its start. Each look-up gives an object of the caller's own, with its own event slots; one of a
-// service that is not there throws Failure.
+// Handed to a plug-in at its start. Each look-up gives an object of the caller's own, with its own event slots; one of
+// a service that is not there throws Failure.
 class PluginSite {
 public:
     virtual ~PluginSite() = default;

@@ -18,7 +18,8 @@ public:
     virtual std::int32_t TextWidth(std::string_view text) const = 0;  // pixels
 };
 
-// One surface. Rectangles are relative to its own left and top. Colours are 0xAARRGGBB. It shows only while it is enabled.
+// One surface. Rectangles are relative to its own left and top. Colours are 0xAARRGGBB. It shows only while it is
+// enabled.
 class HudView {
 public:
     virtual ~HudView() = default;

@@ -18,7 +18,7 @@ constexpr std::int32_t kIcon = 0x0D000001;        // without the 0x06000000 base
 constexpr std::int32_t kHolder = 0x0D000002;      // what holds it; 0 for worn things
 constexpr std::int32_t kStackCount = 0x0D000006;  // 0 for what doesn't stack
 constexpr std::int32_t kStackMaximum = 0x0D000007;
-constexpr std::int32_t kMana = 0x6B;              // mana that an item holds now
+constexpr std::int32_t kMana = 0x6B;  // mana that an item holds now
 }  // namespace key
 
 // Classes of objects that the plug-in tells apart.
