@@ -1,0 +1,128 @@
+#include "tests/support/PluginTest.h"
+
+#include <fmt/format.h>
+
+#include <filesystem>
+#include <ostream>
+#include <sstream>
+#include <type_traits>
+#include <variant>
+
+#include "core/APluginCore.h"
+#include "core/Hub.h"
+
+namespace ombrel::test {
+
+namespace {
+
+constexpr std::string_view kErrorLog = "Asheron's Call/Ombrel Errors.txt";
+
+std::string Printed(const sim::Value& value) {
+    return std::visit(
+        [](const auto& v) -> std::string {
+            if constexpr (std::is_same_v<std::decay_t<decltype(v)>, host::Rect>) {
+                return fmt::format("[{}, {}, {}, {}]", v.left, v.top, v.right, v.bottom);
+            } else {
+                return fmt::format("{}", v);
+            }
+        },
+        value);
+}
+
+std::string Printed(const sim::Call& call) {
+    std::string text(sim::Operations()[call.operation].name);
+    for (const sim::Argument& argument : call.arguments) {
+        text += fmt::format(" {}={}", argument.name, Printed(argument.value));
+    }
+    return text;
+}
+
+}  // namespace
+
+void PrintTo(const Line& line, std::ostream* out) {
+    *out << '"' << line.text << "\" in colour " << line.color << ", window " << line.window;
+}
+
+PluginTest::PluginTest() {
+    client.system.documents = documents.path().string();
+    client.system.common_data = common_data.path().string();
+    client.system.plugin_folder = OMBREL_SOURCE_DIR "/resources";
+    client.sheet.Server = "Frostfell";
+    client.sheet.Name = "Aldra";
+    client.sheet.Character = 0x50000A01;
+    client.sheet.Level = 42;
+    client.sheet.Health = client.sheet.Stamina = client.sheet.Mana = 100;
+    client.sheet.Vital = {{2, 100}, {4, 100}, {6, 100}};
+    client.object(client.sheet.Character).Name = client.sheet.Name;
+
+    client.chat_listener = [this](const sim::Client::ChatLine& line) {
+        if (line.from_plugin) {
+            lines.push_back({std::string(line.text), line.color, line.window});
+        } else {
+            shown.emplace_back(line.text);
+        }
+    };
+    client.calls.listener = [this](const sim::Call& call) { calls.push_back(Printed(call)); };
+
+    // A log that an earlier test could not write stays closed for the process.
+    ErrorLogBusy = false;
+    DebugLogBusy = false;
+}
+
+PluginTest::~PluginTest() = default;
+
+void PluginTest::TearDown() {
+    client.Terminate();
+    EXPECT_THAT(TakeReports(), testing::IsEmpty()) << "reports that the test did not expect";
+}
+
+void PluginTest::Start() { client.Start(); }
+
+void PluginTest::LogIn() {
+    if (!client.plugin()) Start();
+    client.LoginComplete();
+}
+
+sim::Object& PluginTest::Carry(host::Id id, const std::string& name) {
+    sim::Object& thing = client.object(id);
+    thing.Name = name;
+    thing.Container = client.sheet.Character;
+    return thing;
+}
+
+std::vector<std::string> PluginTest::Texts() const {
+    std::vector<std::string> texts;
+    for (const Line& line : lines) texts.push_back(line.text);
+    return texts;
+}
+
+std::vector<std::string> PluginTest::CallsOf(std::string_view name) const {
+    std::vector<std::string> found;
+    for (const std::string& call : calls) {
+        if (call.starts_with(name)) found.push_back(call);
+    }
+    return found;
+}
+
+void PluginTest::Forget() {
+    lines.clear();
+    shown.clear();
+    calls.clear();
+}
+
+void PluginTest::FailNext(std::string_view operation, std::int32_t number) {
+    client.calls.Fail(sim::OperationNamed(operation), 1, number, "made to fail");
+}
+
+std::vector<std::string> PluginTest::TakeReports() {
+    std::vector<std::string> reports;
+    std::istringstream log(documents.Read(kErrorLog));
+    for (std::string line; std::getline(log, line);) {
+        if (line.ends_with('\r')) line.pop_back();
+        if (line.starts_with("Error #")) reports.push_back(line);
+    }
+    std::filesystem::remove(documents.path() / kErrorLog);
+    return reports;
+}
+
+}  // namespace ombrel::test
