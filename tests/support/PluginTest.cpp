@@ -15,6 +15,7 @@ namespace ombrel::test {
 
 namespace {
 
+constexpr const char* kResources = OMBREL_SOURCE_DIR "/resources";
 constexpr std::string_view kErrorLog = "Asheron's Call/Ombrel Errors.txt";
 
 std::string Printed(const sim::Value& value) {
@@ -46,7 +47,7 @@ void PrintTo(const Line& line, std::ostream* out) {
 PluginTest::PluginTest() {
     client.system.documents = documents.path().string();
     client.system.common_data = common_data.path().string();
-    client.system.plugin_folder = OMBREL_SOURCE_DIR "/resources";
+    client.system.plugin_folder = kResources;
     client.sheet.Server = "Frostfell";
     client.sheet.Name = "Aldra";
     client.sheet.Character = 0x50000A01;
@@ -83,6 +84,14 @@ void PluginTest::LogIn() {
     client.LoginComplete();
 }
 
+void PluginTest::HaveSound(std::string_view file) {
+    if (client.system.plugin_folder == kResources) {
+        std::filesystem::copy(kResources, plugin_folder.path(), std::filesystem::copy_options::recursive);
+        client.system.plugin_folder = plugin_folder.path().string();
+    }
+    plugin_folder.Write("Sounds/" + std::string(file), "RIFF");
+}
+
 sim::Object& PluginTest::Carry(host::Id id, const std::string& name) {
     sim::Object& thing = client.object(id);
     thing.Name = name;
@@ -102,6 +111,19 @@ std::vector<std::string> PluginTest::CallsOf(std::string_view name) const {
         if (call.starts_with(name)) found.push_back(call);
     }
     return found;
+}
+
+testing::AssertionResult PluginTest::CalledInOrder(std::initializer_list<std::string_view> texts) const {
+    auto call = calls.begin();
+    for (const std::string_view text : texts) {
+        while (call != calls.end() && call->find(text) == std::string::npos) ++call;
+        if (call == calls.end()) {
+            return testing::AssertionFailure() << '"' << text << "" is missing at its place in\n "
+                                               << testing::PrintToString(calls);
+        }
+        ++call;
+    }
+    return testing::AssertionSuccess();
 }
 
 void PluginTest::Forget() {

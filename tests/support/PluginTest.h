@@ -6,9 +6,9 @@
 //         EXPECT_THAT(Texts(), IsEmpty());
 //     }
 //
-// Set the client's state, let it raise events, and look at what the player reads and what the plug-in asks of the client.
-// Options are the controls themselves: options().FillMana->SetChecked(true). A test in which the plug-in reports a failure
-// must expect it with TakeReports(): one that nobody asked for fails the test.
+// Set the client's state, let it raise events, and look at what the player reads and what the plug-in asks of the
+// client. Options are the controls themselves: options().FillMana->SetChecked(true). A test in which the plug-in
+// reports a failure must expect it with TakeReports(): one that nobody asked for fails the test.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -16,6 +16,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <initializer_list>
 #include <iosfwd>
 #include <string>
 #include <string_view>
@@ -53,6 +54,9 @@ protected:
     // The character enters the world, with everything in the best of health.
     void LogIn();
 
+    // A wave file in the Sounds folder, by its path with forward slashes. To be called before Start.
+    void HaveSound(std::string_view file);
+
     void Advance(std::chrono::milliseconds time) { client.clock.Advance(time); }
 
     // A thing in the character's packs.
@@ -67,17 +71,22 @@ protected:
     // The calls that the plug-in made, as "UseItem id=5 flag=1", of one operation or all that begin with `name`.
     std::vector<std::string> CallsOf(std::string_view name) const;
 
+    // Whether calls with these texts in them were made, one after the other.
+    testing::AssertionResult CalledInOrder(std::initializer_list<std::string_view> texts) const;
+
     // Forgets lines and calls so far.
     void Forget();
 
     // Makes the next call of an operation fail, as "ACHooks.ChatOut".
     void FailNext(std::string_view operation, std::int32_t number = 5);
 
-    // The reports in the error log, as "Error #5 occured in 'Find' of class 'FilterHandler'", which is empty thereafter.
+    // The reports in the error log, as "Error #5 occured in 'Find' of class 'FilterHandler'", which is empty
+    // thereafter.
     std::vector<std::string> TakeReports();
 
     TempFolder documents;
     TempFolder common_data;
+    TempFolder plugin_folder;  // in use once it holds a sound
     sim::Client client;
     std::vector<Line> lines;         // written by the plug-in
     std::vector<std::string> shown;  // let through to the player

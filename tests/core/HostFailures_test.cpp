@@ -1,0 +1,163 @@
+// Whatever the client fails at, a player reads one report and plays on.
+//
+// Each event is raised once to see which operations of the client it needs. Then each of these fails once, in a client
+// of its own: nothing may escape, one report is written, and the same event works again.
+#include <fmt/format.h>
+
+#include <functional>
+#include <map>
+#include <string>
+#include <utility>
+
+#include "adapters/sim/Calls.h"
+#include "tests/support/PluginTest.h"
+
+namespace ombrel::test {
+namespace {
+
+struct EventRow {
+    const char* name;
+    std::function<void(sim::Client&)> raise;
+    std::function<void(sim::Client&)> prepare = [](sim::Client&) {};  // once the character is in the world
+    bool before_login = false;
+};
+
+constexpr host::Id kCorpse = 0x100;
+constexpr host::Id kDrudge = 0x101;
+constexpr host::Id kHam = 0x102;
+constexpr host::Id kKit = 0x103;
+constexpr host::Id kNote = 0x104;
+
+const EventRow kEvents[] = {
+    {"Login", [](sim::Client& c) { c.LoginComplete(); }, [](sim::Client&) {}, true},
+    {"SecondLogin", [](sim::Client& c) { c.LoginComplete(); }},
+    {"Logoff", [](sim::Client& c) { c.Logoff(1); }},
+    {"ChangeVital", [](sim::Client& c) { c.ChangeVital(2, 10); },
+     [](sim::Client&) {
+         Vars::ControlHandler->AlarmHealthOn->SetChecked(true);
+         Vars::ControlHandler->AlarmHealthPer->SetText("50%");
+     }},
+    {"ChangeEnchantments", [](sim::Client& c) { c.ChangeEnchantments(0, {}); }},
+    {"Death", [](sim::Client& c) { c.Death("You have died."); }},
+    {"PortalAfterDeath", [](sim::Client& c) { c.ChangePortalMode(1); },
+     [](sim::Client& c) { c.Death("You have died."); }},
+    {"GameLine", [](sim::Client& c) { c.ChatText("Tom says, \"hello\"\n", 2, 0); }},
+    {"TypedLine", [](sim::Client& c) { c.ChatParser("/m loc"); }},
+    {"StatusText", [](sim::Client& c) { c.StatusText("You're too busy!"); },
+     [](sim::Client&) {
+         Vars::ControlHandler->StatusText->SetChecked(true);
+         Vars::ControlHandler->ShowErrors->SetChecked(true);
+     }},
+    {"QueueLink", [](sim::Client& c) { c.ChatClick("[Ombrel]", 0x710E0); }},
+    {"CorpseOpened", [](sim::Client& c) { c.ContainerOpened(kCorpse); },
+     [](sim::Client&) { Vars::ControlHandler->CorpsesAuto->SetChecked(true); }},
+    {"ObjectSelected", [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
+    {"SelectionCleared", [](sim::Client& c) { c.ObjectSelected(0); }},
+    {"RegionChanged",
+     [](sim::Client& c) {
+         c.RegionChanged({0, 0, 1024, 768});
+     }},
+    {"ObjectCreated", [](sim::Client& c) { c.CreateObject(kNote); },
+     [](sim::Client&) { Vars::FilterHandler->SellingPeas = true; }},
+    {"TargetChanged", [](sim::Client& c) { c.ChangeObject(kDrudge, 0); },
+     [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
+    {"FoodMoved", [](sim::Client& c) { c.MoveObject(kHam); }},
+    {"KitMoved", [](sim::Client& c) { c.MoveObject(kKit); }},
+    {"CorpseReleased", [](sim::Client& c) { c.ReleaseObject(kCorpse); },
+     [](sim::Client&) { Vars::ControlHandler->CorpsesAuto->SetChecked(true); }},
+    {"TargetReleased", [](sim::Client& c) { c.ReleaseObject(kDrudge); },
+     [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
+    {"MouseMove", [](sim::Client& c) { c.WindowMessage(512, 20, 20, 0, 0); }},
+    {"MouseDown", [](sim::Client& c) { c.WindowMessage(513, 20, 20, 0, 0); }},
+    {"MouseUp", [](sim::Client& c) { c.WindowMessage(514, 20, 20, 0, 0); }},
+    {"Hotkey", [](sim::Client& c) { c.Hotkey("OM: Use Health Kit"); }},
+    {"DeviceLost", [](sim::Client& c) { c.DeviceLost(); }},
+    {"FirstSeconds", [](sim::Client& c) { c.clock.Advance(3s); }},
+    {"AMinute", [](sim::Client& c) { c.clock.Advance(60s); }},
+};
+
+// Operations whose failure is told of more than once, or not at all, and why.
+struct Exception {
+    const char* operation;
+    std::size_t fewest;
+    std::size_t most;
+};
+
+const Exception kExceptions[] = {
+    // The folder is reported by the procedure that asks for it, and its error text then by the one that writes there.
+    {"Platform.SHGetFolderPath", 1, 2},
+};
+
+class HostFailures : public PluginTest, public testing::WithParamInterface<EventRow> {
+protected:
+    // What an evening has to offer: something to select, to eat, to find again.
+    void Begin(const EventRow& event) {
+        client.object(client.sheet.Character).Coordinates = {12.3, -45.6};
+        client.object(kCorpse).Name = "Corpse of Aldra";
+        client.object(kCorpse).Coordinates = {12.4, -45.6};
+        client.object(kDrudge).Name = "Drudge Slave";
+        client.object(kDrudge).Type = host::object_class::kCreature;
+        Carry(kHam, "Ham").Type = host::object_class::kFood;
+        Carry(kKit, "Plentiful Healing Kit").Type = host::object_class::kHealingKit;
+        Carry(kNote, "Trade Note (250,000)");
+        Start();
+        if (!event.before_login) LogIn();
+        event.prepare(client);
+        TakeReports();
+    }
+};
+
+// One evening of its own for each failure.
+class Evening : public HostFailures {
+public:
+    void TestBody() override {}
+    void Begin(const EventRow& event) { HostFailures::Begin(event); }
+    using HostFailures::client;
+    using HostFailures::TakeReports;
+};
+
+TEST_P(HostFailures, AreReportedOnceAndOver) {
+    const EventRow& event = GetParam();
+
+    std::vector<sim::Op> needed;
+    {
+        Evening evening;
+        evening.Begin(event);
+        std::vector<std::uint64_t> before;
+        const auto operations = sim::Operations();
+        for (sim::Op op = 0; op < operations.size(); ++op) before.push_back(evening.client.calls.Count(op));
+        event.raise(evening.client);
+        EXPECT_THAT(evening.TakeReports(), testing::IsEmpty());
+        for (sim::Op op = 0; op < operations.size(); ++op) {
+            if (evening.client.calls.Count(op) > before[op]) needed.push_back(op);
+        }
+    }
+
+    for (const sim::Op op : needed) {
+        const sim::Operation& operation = sim::Operations()[op];
+        const std::string name = fmt::format("{}.{}", operation.object, operation.name);
+        SCOPED_TRACE(name);
+        std::size_t fewest = 1;
+        std::size_t most = 1;
+        for (const Exception& row : kExceptions) {
+            if (name == row.operation) std::tie(fewest, most) = std::pair(row.fewest, row.most);
+        }
+
+        Evening evening;
+        evening.Begin(event);
+        evening.client.calls.Fail(op, 1, 5, "made to fail");
+        EXPECT_NO_THROW(event.raise(evening.client));
+        const std::vector<std::string> reports = evening.TakeReports();
+        EXPECT_TRUE(reports.size() >= fewest && reports.size() <= most) << testing::PrintToString(reports);
+
+        evening.client.calls.ClearFailures();
+        EXPECT_NO_THROW(event.raise(evening.client));
+        EXPECT_THAT(evening.TakeReports(), testing::IsEmpty()) << "after the failure is over";
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Events, HostFailures, testing::ValuesIn(kEvents),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
+}  // namespace ombrel::test
