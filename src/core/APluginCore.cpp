@@ -90,7 +90,7 @@ constexpr FontRow kFonts[] = {
 
 constexpr std::string_view kFirstKillText = "If you are reading this then you should know: I own.";
 
-// Whose globals these are. A plug-in that ends after a newer one was made leaves the newer one's alone.
+// Whose globals these are. A plug-in that ends after a newer one was made leaves the newer one's handlers alone.
 const APluginCore* current = nullptr;
 
 // Everything behind TimerHandler, in the order of the teardown: each handler may still reach those that come later.
@@ -195,6 +195,7 @@ void APluginCore::IPlugin2_Initialize(host::PluginSite& site) try {
 }
 
 void APluginCore::IPlugin2_Terminate() try {
+    if (current != this) return;
     Vars::TimerHandler.Release();  // before anything else, so that no timer fires into what is being torn down
     wtcw_debug("Plugin Core Terminate");
     ReleaseHandlers();

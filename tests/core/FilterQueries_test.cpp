@@ -13,7 +13,10 @@ using testing::IsEmpty;
 
 class FilterQueries : public PluginTest {
 protected:
-    FilterQueries() { Start(); }
+    FilterQueries() {
+        LogIn();
+        Forget();
+    }
 
     sim::Object& Me() { return client.object(client.sheet.Character); }
 };

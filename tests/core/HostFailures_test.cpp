@@ -88,10 +88,9 @@ const Exception kExceptions[] = {
     {"Platform.SHGetFolderPath", 1, 2},
 };
 
-class HostFailures : public PluginTest, public testing::WithParamInterface<EventRow> {
-protected:
-    // What an evening has to offer: something to select, to eat, to find again.
-    void Begin(const EventRow& event) {
+// What an evening has to offer: something to select, to eat, to find again.
+struct Evening : GameSession {
+    explicit Evening(const EventRow& event) {
         client.object(client.sheet.Character).Coordinates = {12.3, -45.6};
         client.object(kCorpse).Name = "Corpse of Aldra";
         client.object(kCorpse).Coordinates = {12.4, -45.6};
@@ -107,33 +106,27 @@ protected:
     }
 };
 
-// One evening of its own for each failure.
-class Evening : public HostFailures {
-public:
-    void TestBody() override {}
-    void Begin(const EventRow& event) { HostFailures::Begin(event); }
-    using HostFailures::client;
-    using HostFailures::TakeReports;
-};
+// The operations that an event needs.
+std::vector<sim::Op> NeededBy(const EventRow& event) {
+    Evening evening(event);
+    const sim::Calls& calls = evening.client.calls;
+    std::vector<std::uint64_t> before;
+    for (sim::Op op = 0; op < sim::Operations().size(); ++op) before.push_back(calls.Count(op));
+    event.raise(evening.client);
+    EXPECT_THAT(evening.TakeReports(), testing::IsEmpty());
+
+    std::vector<sim::Op> needed;
+    for (sim::Op op = 0; op < before.size(); ++op) {
+        if (calls.Count(op) > before[op]) needed.push_back(op);
+    }
+    return needed;
+}
+
+class HostFailures : public testing::TestWithParam<EventRow> {};
 
 TEST_P(HostFailures, AreReportedOnceAndOver) {
     const EventRow& event = GetParam();
-
-    std::vector<sim::Op> needed;
-    {
-        Evening evening;
-        evening.Begin(event);
-        std::vector<std::uint64_t> before;
-        const auto operations = sim::Operations();
-        for (sim::Op op = 0; op < operations.size(); ++op) before.push_back(evening.client.calls.Count(op));
-        event.raise(evening.client);
-        EXPECT_THAT(evening.TakeReports(), testing::IsEmpty());
-        for (sim::Op op = 0; op < operations.size(); ++op) {
-            if (evening.client.calls.Count(op) > before[op]) needed.push_back(op);
-        }
-    }
-
-    for (const sim::Op op : needed) {
+    for (const sim::Op op : NeededBy(event)) {
         const sim::Operation& operation = sim::Operations()[op];
         const std::string name = fmt::format("{}.{}", operation.object, operation.name);
         SCOPED_TRACE(name);
@@ -143,8 +136,7 @@ TEST_P(HostFailures, AreReportedOnceAndOver) {
             if (name == row.operation) std::tie(fewest, most) = std::pair(row.fewest, row.most);
         }
 
-        Evening evening;
-        evening.Begin(event);
+        Evening evening(event);
         evening.client.calls.Fail(op, 1, 5, "made to fail");
         EXPECT_NO_THROW(event.raise(evening.client));
         const std::vector<std::string> reports = evening.TakeReports();

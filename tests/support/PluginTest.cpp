@@ -44,10 +44,16 @@ void PrintTo(const Line& line, std::ostream* out) {
     *out << '"' << line.text << "\" in colour " << line.color << ", window " << line.window;
 }
 
-PluginTest::PluginTest() {
+GameSession::GameSession() {
     client.system.documents = documents.path().string();
     client.system.common_data = common_data.path().string();
     client.system.plugin_folder = kResources;
+
+    // As the installer leaves it.
+    constexpr const char* kSettings = "Ombrel/Settings/Ombrel_Settings.xml";
+    std::filesystem::create_directories((common_data.path() / kSettings).parent_path());
+    std::filesystem::copy_file(std::filesystem::path(kResources) / kSettings, common_data.path() / kSettings);
+
     client.sheet.Server = "Frostfell";
     client.sheet.Name = "Aldra";
     client.sheet.Character = 0x50000A01;
@@ -70,21 +76,16 @@ PluginTest::PluginTest() {
     DebugLogBusy = false;
 }
 
-PluginTest::~PluginTest() = default;
+GameSession::~GameSession() = default;
 
-void PluginTest::TearDown() {
-    client.Terminate();
-    EXPECT_THAT(TakeReports(), testing::IsEmpty()) << "reports that the test did not expect";
-}
+void GameSession::Start() { client.Start(); }
 
-void PluginTest::Start() { client.Start(); }
-
-void PluginTest::LogIn() {
+void GameSession::LogIn() {
     if (!client.plugin()) Start();
     client.LoginComplete();
 }
 
-void PluginTest::HaveSound(std::string_view file) {
+void GameSession::HaveSound(std::string_view file) {
     if (client.system.plugin_folder == kResources) {
         std::filesystem::copy(kResources, plugin_folder.path(), std::filesystem::copy_options::recursive);
         client.system.plugin_folder = plugin_folder.path().string();
@@ -92,20 +93,20 @@ void PluginTest::HaveSound(std::string_view file) {
     plugin_folder.Write("Sounds/" + std::string(file), "RIFF");
 }
 
-sim::Object& PluginTest::Carry(host::Id id, const std::string& name) {
+sim::Object& GameSession::Carry(host::Id id, const std::string& name) {
     sim::Object& thing = client.object(id);
     thing.Name = name;
     thing.Container = client.sheet.Character;
     return thing;
 }
 
-std::vector<std::string> PluginTest::Texts() const {
+std::vector<std::string> GameSession::Texts() const {
     std::vector<std::string> texts;
     for (const Line& line : lines) texts.push_back(line.text);
     return texts;
 }
 
-std::vector<std::string> PluginTest::CallsOf(std::string_view name) const {
+std::vector<std::string> GameSession::CallsOf(std::string_view name) const {
     std::vector<std::string> found;
     for (const std::string& call : calls) {
         if (call.starts_with(name)) found.push_back(call);
@@ -113,30 +114,30 @@ std::vector<std::string> PluginTest::CallsOf(std::string_view name) const {
     return found;
 }
 
-testing::AssertionResult PluginTest::CalledInOrder(std::initializer_list<std::string_view> texts) const {
+testing::AssertionResult GameSession::CalledInOrder(std::initializer_list<std::string_view> texts) const {
     auto call = calls.begin();
     for (const std::string_view text : texts) {
         while (call != calls.end() && call->find(text) == std::string::npos) ++call;
         if (call == calls.end()) {
-            return testing::AssertionFailure() << '"' << text << "" is missing at its place in\n "
-                                               << testing::PrintToString(calls);
+            return testing::AssertionFailure()
+                   << "'" << text << "' is missing at its place in " << testing::PrintToString(calls);
         }
         ++call;
     }
     return testing::AssertionSuccess();
 }
 
-void PluginTest::Forget() {
+void GameSession::Forget() {
     lines.clear();
     shown.clear();
     calls.clear();
 }
 
-void PluginTest::FailNext(std::string_view operation, std::int32_t number) {
+void GameSession::FailNext(std::string_view operation, std::int32_t number) {
     client.calls.Fail(sim::OperationNamed(operation), 1, number, "made to fail");
 }
 
-std::vector<std::string> PluginTest::TakeReports() {
+std::vector<std::string> GameSession::TakeReports() {
     std::vector<std::string> reports;
     std::istringstream log(documents.Read(kErrorLog));
     for (std::string line; std::getline(log, line);) {
@@ -145,6 +146,11 @@ std::vector<std::string> PluginTest::TakeReports() {
     }
     std::filesystem::remove(documents.path() / kErrorLog);
     return reports;
+}
+
+void PluginTest::TearDown() {
+    client.Terminate();
+    EXPECT_THAT(TakeReports(), testing::IsEmpty()) << "reports that the test did not expect";
 }
 
 }  // namespace ombrel::test

@@ -42,11 +42,14 @@ struct Line {
     friend void PrintTo(const Line& line, std::ostream* out);
 };
 
-class PluginTest : public testing::Test {
-protected:
-    PluginTest();
-    ~PluginTest() override;
-    void TearDown() override;
+// The plug-in, its client and what passes between them. A test that needs one of its own for each of its cases makes
+// them.
+class GameSession {
+public:
+    GameSession();
+    ~GameSession();
+    GameSession(const GameSession&) = delete;
+    GameSession& operator=(const GameSession&) = delete;
 
     // The client creates the plug-in and initializes it.
     void Start();
@@ -86,11 +89,16 @@ protected:
 
     TempFolder documents;
     TempFolder common_data;
-    TempFolder plugin_folder;  // in use once it holds a sound
-    sim::Client client;
+    TempFolder plugin_folder;        // in use once it holds a sound
     std::vector<Line> lines;         // written by the plug-in
     std::vector<std::string> shown;  // let through to the player
     std::vector<std::string> calls;
+    sim::Client client;
+};
+
+class PluginTest : public testing::Test, protected GameSession {
+protected:
+    void TearDown() override;
 };
 
 }  // namespace ombrel::test
