@@ -69,24 +69,29 @@ TEST_F(APluginCoreTest, TerminationReleasesAllButTheHotkeys) {
 }
 
 TEST_F(APluginCoreTest, AnEndWithoutTerminationReleasesEverything) {
+    Start();
+    host::PluginSite& site = *Vars::Site;
     {
-        sim::Client other;
-        other.system = client.system;
-        other.Start();
-        other.LoginComplete();
+        APluginCore other(*Vars::Platform);
+        other.IPlugin2_Initialize(site);
+        client.LoginComplete();
+        EXPECT_TRUE(Vars::DHSHandler);
     }
     EXPECT_FALSE(Vars::TimerHandler || Vars::FilterHandler || Vars::DHSHandler || Vars::Platform);
+    EXPECT_THAT(client.clock.Running(), IsEmpty());
 }
 
 TEST_F(APluginCoreTest, AnOlderPluginLeavesTheNewerOnesHandlersAlone) {
-    auto older = std::make_unique<sim::Client>();
-    older->system = client.system;
-    older->Start();
     Start();
+    host::PluginSite& site = *Vars::Site;
+    APluginCore newer(*Vars::Platform);
+    newer.IPlugin2_Initialize(site);
     const auto* handler = Vars::TimerHandler.get();
-    older.reset();
+    client.Terminate();
+    EXPECT_TRUE(handler);
     EXPECT_EQ(Vars::TimerHandler.get(), handler);
-    EXPECT_TRUE(Vars::Platform);
+    newer.IPlugin2_Terminate();
+    EXPECT_FALSE(Vars::TimerHandler);
 }
 
 TEST_F(APluginCoreTest, LinesOfOtherPluginsGoStraightToChatUntilLogin) {

@@ -1,5 +1,6 @@
 #include "core/TimerHandler.h"
 
+#include "chat/LogHandler.h"
 #include "stats/Statistics.h"
 #include "tests/support/PluginTest.h"
 
@@ -119,7 +120,7 @@ TEST_F(TimerHandlerTest, FriendsAreAskedForThreeSecondsAfterLogin) {
 
 TEST_F(TimerHandlerTest, AFailedTickIsReportedAndTheNextOneComes) {
     LogIn();
-    Vars::Statistics.Release();
+    Vars::LogHandler.Release();
     Advance(2s);
     EXPECT_THAT(TakeReports(), ElementsAre("Error #91 occured in 'CoreTimer_Timeout' of class 'TimerHandler'",
                                            "Error #91 occured in 'CoreTimer_Timeout' of class 'TimerHandler'"));
