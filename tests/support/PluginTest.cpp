@@ -134,7 +134,7 @@ void GameSession::Forget() {
 }
 
 void GameSession::FailNext(std::string_view operation, std::int32_t number) {
-    client.calls.Fail(sim::OperationNamed(operation), 1, number, "made to fail");
+    client.calls.Fail(sim::FindOperation(operation).value(), 1, number, "made to fail");
 }
 
 std::vector<std::string> GameSession::TakeReports() {
