@@ -6,9 +6,7 @@
 
 #include <cstdint>
 #include <deque>
-#include <span>
 #include <string>
-#include <string_view>
 
 #include "chat/LogItem.h"
 
@@ -37,20 +35,20 @@ private:
 // end that a crash cut off is completed at the next opening, and no finished line is lost.
 class XmlLog final : public LogFile {
 public:
-    // Opens the log, or begins a new one. A file that is no log is kept beside under a telling name. Throws Failure.
+    // Reads the log; a new one is made by its first line. A file that is no log is kept beside under a telling name.
+    // Throws Failure.
     explicit XmlLog(std::string path);
     void Write(const std::deque<LogItem>& items) override;
 
 private:
     void Open();
+    bool IsAsLeft() const;  // nobody else has touched the file
 
     std::string path_;
-    std::string closing_;          // the end tag of the root, and what stands behind it
-    std::uint64_t insert_at_ = 0;  // where it begins
-    std::uint64_t size_ = 0;       // of the file after our last write
+    bool begun_ = false;           // the file holds a log
+    std::uint64_t insert_at_ = 0;  // where the end tag of the root begins
+    std::string closing_;          // that tag, and what stands behind it
+    std::uint64_t size_ = 0;       // of the file as we left it
 };
-
-// One line of the document. Failure 9 for a colour that the table lacks.
-std::string XmlMessage(const LogItem& item);
 
 }  // namespace ombrel

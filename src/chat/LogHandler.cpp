@@ -109,19 +109,13 @@ void LogHandler::AddToLog(std::string_view text, std::int32_t type, std::int32_t
     if (to_view) {
         if (const std::int32_t tag = Classify(text, type, Destination::kView); tag > 0) {
             Append({std::string(text), type, color, NowUnix(), tag, next_id_++});
-            if (!Log.empty() && !HasTableColor(Log.back())) ReportColor("DisplayLog");
             Vars::ControlHandler->Data_Save();
             DisplayLog();
         }
     }
     if (file_logging_) {
         if (const std::int32_t tag = Classify(text, type, Destination::kFile); tag > 0) {
-            file_queue_.push_back({std::string(text), type, color, NowUnix(), tag, 0});
-            if (file_queue_.size() > kQueueLimit) {
-                file_queue_.pop_front();
-                if (!queue_overflowed_) wtcw_error("The chat log can't be written: its oldest lines are lost.");
-                queue_overflowed_ = true;
-            }
+            QueueForFile({std::string(text), type, color, NowUnix(), tag, 0});
         }
     }
 } catch (...) {
@@ -136,12 +130,21 @@ void LogHandler::AddToLogFromData(const std::string& message, std::int32_t msgty
 }
 
 void LogHandler::Append(LogItem item) {
+    if (!HasTableColor(item)) ReportColor("DisplayLog");
     Log.push_back(std::move(item));
     CheckSize();
 }
 
 void LogHandler::CheckSize() {
     while (!Log.empty() && static_cast<std::int64_t>(Log.size()) > max_lines_) Log.pop_front();
+}
+
+void LogHandler::QueueForFile(LogItem item) {
+    file_queue_.push_back(std::move(item));
+    if (file_queue_.size() <= kQueueLimit) return;
+    file_queue_.pop_front();
+    if (!queue_overflowed_) wtcw_error("The chat log can't be written: its oldest lines are lost.");
+    queue_overflowed_ = true;
 }
 
 void LogHandler::Clear() try {
@@ -153,13 +156,16 @@ void LogHandler::Clear() try {
 }
 
 // In the file, and only there, a line to the vassals holds even when its row is off.
-std::int32_t LogHandler::Classify(std::string_view text, std::int32_t type, Destination destination) {
+std::int32_t LogHandler::Classify(std::string_view text, std::int32_t type, Destination destination) try {
     for (std::size_t row = 0; row < kClasses; ++row) {
         const LogClass& log_class = kLogClasses[row];
         if (!log_class.holds(text, type)) continue;
         if (RowIsOn(row, destination)) return log_class.tag;
         if (row == kVassalRow && destination == Destination::kFile && IsToVassals(text, type)) return log_class.tag;
     }
+    return 0;
+} catch (...) {
+    ReportFailure(destination == Destination::kView ? "ClassifyToView" : "ClassifyToFile", "LogHandler");
     return 0;
 }
 
@@ -177,18 +183,11 @@ bool LogHandler::RowIsOn(std::size_t row, Destination destination) {
 // The view.
 
 bool LogHandler::DisplayItem(const LogItem& item) const {
-    if (!search_.empty()) {
-        // "OR" and "AND" divide as they stand, so capitals in a search word divide it too.
-        const std::string expression = Replace(Replace(search_, "+", " AND "), "|", " OR ");
-        const auto pieces = Split(expression, "OR");
-        const bool hit = std::any_of(pieces.begin(), pieces.end(), [&](std::string_view piece) {
-            const auto terms = Split(piece, "AND");
-            return std::all_of(terms.begin(), terms.end(),
-                               [&](std::string_view term) { return ContainsNoCase(item.message, Trim(term)); });
-        });
-        if (!hit) return false;
-    }
-    if (filter_mode_ == 0) return true;
+    const bool hit = alternatives_.empty() || std::ranges::any_of(alternatives_, [&](const auto& terms) {
+                         return std::ranges::all_of(
+                             terms, [&](const std::string& term) { return ContainsNoCase(item.message, term); });
+                     });
+    if (!hit || filter_mode_ == 0) return hit;
     return filter_mode_ >= 1 && filter_mode_ <= 7 && item.msgtag == filter_mode_;
 }
 
@@ -223,8 +222,17 @@ void LogHandler::PrintDetails(std::int32_t id) try {
 
 void LogHandler::ScrollToStart() { Vars::ControlHandler->ChatLogView->SetScrollPosition(0); }
 
+// "OR" and "AND" divide as they stand, so capitals in a search word divide it too.
 void LogHandler::SetSearchString(const std::string& search) try {
     search_ = search;
+    alternatives_.clear();
+    if (!search.empty()) {
+        const std::string expression = Replace(Replace(search, "+", " AND "), "|", " OR ");
+        for (const std::string_view piece : Split(expression, "OR")) {
+            auto& terms = alternatives_.emplace_back();
+            for (const std::string_view term : Split(piece, "AND")) terms.emplace_back(Trim(term));
+        }
+    }
     DisplayLog();
 } catch (...) {
     ReportFailure("SearchString", "LogHandler");
@@ -259,12 +267,14 @@ void LogHandler::SetSortAsc(bool ascending) try {
 
 void LogHandler::SetFileLogging(bool on) {
     file_logging_ = on;
-    if (!on && Vars::ControlHandler->ChatLogXML->Checked()) file_.reset();
+    if (!on && Vars::ControlHandler->ChatLogXML->Checked()) xml_.reset();
 }
 
 void LogHandler::SetLogfile(std::string_view name) {
     logfile_ = Replace(Replace(name, ".txt", ""), ".xml", "");
     checked_day_ = 0;
+    text_.reset();
+    xml_.reset();
     if (Vars::ControlHandler->ChatLogXML->Checked())
         OpenXml();
     else
@@ -272,35 +282,42 @@ void LogHandler::SetLogfile(std::string_view name) {
 }
 
 void LogHandler::InitFileLog() {
-    file_.reset();
-    if (!logfile_.empty()) file_ = std::make_unique<TextLog>(LogPath + logfile_ + ".txt");
+    text_.reset();
+    if (!logfile_.empty()) text_ = std::make_unique<TextLog>(LogPath + logfile_ + ".txt");
 }
 
 void LogHandler::OpenXml() {
-    file_.reset();
+    xml_.reset();
     if (logfile_.empty()) return;
-    file_ = std::make_unique<XmlLog>(LogPath + logfile_ + ".xml");
+    xml_ = std::make_unique<XmlLog>(LogPath + logfile_ + ".xml");
+    ProvideStyle();
+}
 
+// A log without its style sheet is still a log.
+void LogHandler::ProvideStyle() try {
     const std::string style = LogPath + "style\\ombrellog.xsl";
     const std::string shipped = ProgramPath() + "\\style\\ombrellog.xsl";
     if (!FileExists(style) && FileExists(shipped)) SaveFile(style, ReadFile(shipped), Durability::kProcess);
+} catch (...) {
+    ReportFailure("logfile", "LogHandler");
 }
 
 void LogHandler::WriteFileLog() try {
     if (file_queue_.empty()) return;
-    if (!file_) {
-        // A plain log whose opening failed is tried again; an XML log waits for its next name.
+    const bool xml = Vars::ControlHandler->ChatLogXML->Checked();
+    const auto& file = xml ? xml_ : text_;
+    if (!file) {
         if (!file_logging_ || logfile_.empty()) return;
-        Vars::ControlHandler->ChatLogXML->Checked() ? OpenXml() : InitFileLog();
+        xml ? OpenXml() : InitFileLog();
     }
-    if (Vars::ControlHandler->ChatLogXML->Checked()) {
+    if (xml) {
         std::erase_if(file_queue_, [](const LogItem& item) {
             if (HasTableColor(item)) return false;
             ReportColor("WriteFileLog");
             return true;
         });
     }
-    file_->Write(file_queue_);
+    file->Write(file_queue_);
     file_queue_.clear();
     write_failed_ = queue_overflowed_ = false;
 } catch (...) {
@@ -321,13 +338,16 @@ void LogHandler::RollOver() {
     const auto today = static_cast<std::int32_t>(NowDate());
     if (today == checked_day_) return;
 
-    // A log that the player named by hand doesn't follow the day.
-    auto& filter = *Vars::FilterHandler;
-    const bool automatic = logfile_.starts_with(filter.GetMyServer() + "_" + filter.GetMyCharName() + "_");
-    if (automatic) {
-        if (std::string name = AutomaticName(); name != logfile_) SetLogfile(name);
-    }
+    // A log that the player named by hand doesn't follow the day. The next write opens the new one, so that a failure
+    // of that costs no line.
     checked_day_ = today;
+    auto& filter = *Vars::FilterHandler;
+    if (!logfile_.starts_with(filter.GetMyServer() + "_" + filter.GetMyCharName() + "_")) return;
+    if (std::string name = AutomaticName(); name != logfile_) {
+        logfile_ = std::move(name);
+        text_.reset();
+        xml_.reset();
+    }
 }
 
 }  // namespace ombrel

@@ -10,6 +10,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "chat/LogItem.h"
 
@@ -33,7 +34,8 @@ public:
 
     // Each redraws the view; all but the first scroll it to its start.
     void SetSearchString(const std::string& search);  // "a+b" both words, "a|b" either
-    void SetFilterMode(std::int32_t mode);            // 0 all, 1 to 7 one class
+    const std::string& SearchString() const { return search_; }
+    void SetFilterMode(std::int32_t mode);  // 0 all, 1 to 7 one class
     void SetMaxLines(std::int32_t lines);
     void SetSortAsc(bool ascending);
     bool SortAsc() const { return sort_ascending_; }
@@ -45,9 +47,8 @@ public:
     bool FileLogging() const { return file_logging_; }
     void SetFileLogging(bool on);
 
-    // The file's name without folder and extension. Setting it opens the log in the format that the player chose; the
-    // file is made when it is missing and extended when it is not. An empty name opens nothing. Failures reach the
-    // caller.
+    // The file's name without folder and extension. Setting it opens the log in the format that the player chose; an
+    // old file is extended. An empty name opens nothing. Failures reach the caller.
     const std::string& logfile() const { return logfile_; }
     void SetLogfile(std::string_view name);
     void InitFileLog();  // opens the plain log
@@ -67,19 +68,22 @@ private:
     void CheckSize();
     void Append(LogItem item);
     void ScrollToStart();
+    void QueueForFile(LogItem item);
     void OpenXml();
+    void ProvideStyle();
 
     std::deque<LogItem> file_queue_;
     std::int32_t next_id_ = 0;
     std::string search_;
+    std::vector<std::vector<std::string>> alternatives_;  // of the search: one must have all of its terms in a line
     std::int32_t filter_mode_ = 0;
     std::int32_t max_lines_ = 100;
     bool sort_ascending_ = false;
 
     bool file_logging_ = false;
     std::string logfile_;
-    std::unique_ptr<LogFile> file_;
-    bool write_failed_ = false;  // reported already; not again before a write has worked
+    std::unique_ptr<LogFile> text_, xml_;  // the one that the player's choice of format asks for is written
+    bool write_failed_ = false;            // reported already; not again before a write has worked
     bool queue_overflowed_ = false;
     std::int32_t checked_day_ = 0;  // the day for which the name of the log was last found right
 

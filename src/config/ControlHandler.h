@@ -68,6 +68,16 @@ public:
     void ChatFilter_Change(std::int32_t column, std::int32_t row);
     void AliasAdd_Accepted();
     void ChatAlias_Change(std::int32_t column, std::int32_t row);
+    void ChatLogAFK_Change();
+    void ChatLogAuto_Change();
+    void ChatLogByDate_Change();
+    void ChatLogClear_Accepted();
+    void ChatLogDir_Accepted();
+    void ChatLogFilter_Change();
+    void ChatLogMax_End();
+    void ChatLogSearch_Change();
+    void ChatLogView_Change(std::int32_t column, std::int32_t row);
+    void ChatLogXML_Change();
 
     // Each turns a HUD on or off, as its "X" button does.
     void ToggleAll();

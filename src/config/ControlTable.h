@@ -68,8 +68,8 @@ inline constexpr ControlRow<host::PushButton> kPushButtons[] = {
     {"Chat_Custom_Delete", &ControlHandler::ChatCustomDelete, &ControlHandler::ChatCustomDelete_Accepted},
     {"Chat_Custom_Edit", &ControlHandler::ChatCustomEdit, &ControlHandler::ChatCustomEdit_Accepted},
     {"Chat_Custom_Add", &ControlHandler::ChatCustomAdd, &ControlHandler::ChatCustomAdd_Accepted},
-    {"Chat_Log_Dir", &ControlHandler::ChatLogDir},
-    {"Chat_Log_Clear", &ControlHandler::ChatLogClear},
+    {"Chat_Log_Dir", &ControlHandler::ChatLogDir, &ControlHandler::ChatLogDir_Accepted},
+    {"Chat_Log_Clear", &ControlHandler::ChatLogClear, &ControlHandler::ChatLogClear_Accepted},
     {"Vitals_btnAddException", &ControlHandler::VitalsAddExceptionBtn},
     {"Vitals_btnAddSelected", &ControlHandler::VitalsAddExceptionSel},
 };
@@ -119,12 +119,12 @@ inline constexpr ControlRow<host::Checkbox> kCheckboxes[] = {
     {"Corpses_Track", &ControlHandler::CorpsesTrack},
     {"Corpses_Absolute", &ControlHandler::CorpsesAbsolute},
     {"Corpses_Auto", &ControlHandler::CorpsesAuto},
-    {"Chat_Log_AFK", &ControlHandler::ChatLogAFK},
-    {"Chat_Log_Enable", &ControlHandler::ChatLogEnable},
-    {"Chat_Log_Timestamp", &ControlHandler::ChatLogTimestamp},
-    {"Chat_Log_XML", &ControlHandler::ChatLogXML},
-    {"Chat_Log_Auto", &ControlHandler::ChatLogAuto},
-    {"Chat_Log_By_Date", &ControlHandler::ChatLogByDate},
+    {"Chat_Log_AFK", &ControlHandler::ChatLogAFK, &ControlHandler::ChatLogAFK_Change},
+    {"Chat_Log_Enable", &ControlHandler::ChatLogEnable, &ControlHandler::SaveOption},
+    {"Chat_Log_Timestamp", &ControlHandler::ChatLogTimestamp, &ControlHandler::SaveOption},
+    {"Chat_Log_XML", &ControlHandler::ChatLogXML, &ControlHandler::ChatLogXML_Change},
+    {"Chat_Log_Auto", &ControlHandler::ChatLogAuto, &ControlHandler::ChatLogAuto_Change},
+    {"Chat_Log_By_Date", &ControlHandler::ChatLogByDate, &ControlHandler::ChatLogByDate_Change},
     {"Vitals_OneTouch_Enabled", &ControlHandler::VitalsEnabled},
 };
 
@@ -153,9 +153,10 @@ inline constexpr ControlRow<host::Edit> kEdits[] = {
     {"Chat_Custom_Text", &ControlHandler::ChatCustomText},
     {"Chat_Custom_Window", &ControlHandler::ChatCustomWindow},
     {"Chat_Custom_Action", &ControlHandler::ChatCustomAction},
-    {"Chat_Log_Search", &ControlHandler::ChatLogSearch},
+    {"Chat_Log_Search", &ControlHandler::ChatLogSearch, &ControlHandler::ChatLogSearch_Change,
+     &ControlHandler::ChatLogSearch_Change},
     {"Chat_Log_AFK_Message", &ControlHandler::ChatLogAFKMessage},
-    {"Chat_Log_Max", &ControlHandler::ChatLogMax},
+    {"Chat_Log_Max", &ControlHandler::ChatLogMax, nullptr, &ControlHandler::ChatLogMax_End},
     {"Vitals_txtBlock", &ControlHandler::VitalsBlock},
     {"Vitals_txtSuccess", &ControlHandler::VitalsSuccess},
     {"Vitals_txtCheap", &ControlHandler::VitalsCheap},
@@ -186,7 +187,7 @@ inline constexpr ControlRow<host::Choice> kChoices[] = {
     {"Chat_Custom_Type", &ControlHandler::ChatCustomType},
     {"Chat_Custom_Color", &ControlHandler::ChatCustomColor},
     {"Chat_Custom_Sound", &ControlHandler::ChatCustomSound},
-    {"Chat_Log_Filter", &ControlHandler::ChatLogFilter},
+    {"Chat_Log_Filter", &ControlHandler::ChatLogFilter, &ControlHandler::ChatLogFilter_Change},
 };
 
 inline constexpr ControlRow<host::List> kLists[] = {
@@ -202,8 +203,8 @@ inline constexpr ControlRow<host::List> kLists[] = {
     {"Chat_Color", &ControlHandler::ChatColor, &ControlHandler::ChatColor_Change},
     {"Chat_Custom", &ControlHandler::ChatCustom, &ControlHandler::ChatCustom_Change},
     {"Corpses_List", &ControlHandler::CorpsesList},
-    {"Chat_Log_View", &ControlHandler::ChatLogView},
-    {"Chat_Log_Options", &ControlHandler::ChatLogOptions},
+    {"Chat_Log_View", &ControlHandler::ChatLogView, &ControlHandler::ChatLogView_Change},
+    {"Chat_Log_Options", &ControlHandler::ChatLogOptions, &ControlHandler::SaveList},
     {"Vitals_listExceptions", &ControlHandler::VitalsExceptions},
 };
 
