@@ -58,6 +58,7 @@ void ControlHandler::ChatLogSearch_Change() try {
 }
 
 void ControlHandler::ChatLogView_Change(std::int32_t, std::int32_t row) try {
+    if (row < 0 || row >= ChatLogView->Count()) return;  // a click beside the lines
     Vars::LogHandler->PrintDetails(ToLong(CellText(*ChatLogView, 1, row)));
     Settings_Save(0);
 } catch (...) {
