@@ -95,9 +95,11 @@ std::string DayOf(std::string_view date) {
     if (day < 1 || day > 31 || !Take(date, '/')) return {};
     const int year = TakeNumber(date, 4);
     if (year < 100) return {};
-    const bool timed = Take(date, ' ') && TakeNumber(date, 2) >= 1 && Take(date, ':') && TakeNumber(date, 2) >= 0 &&
-                       Take(date, ':') && TakeNumber(date, 2) >= 0 && (date == " AM" || date == " PM");
-    if (!timed && !date.empty()) return {};
+    if (!date.empty()) {
+        const bool timed = Take(date, ' ') && TakeNumber(date, 2) >= 1 && Take(date, ':') && TakeNumber(date, 2) >= 0 &&
+                           Take(date, ':') && TakeNumber(date, 2) >= 0;
+        if (!timed || (date != " AM" && date != " PM")) return {};
+    }
     return fmt::format("{:04}-{:02}-{:02}", year, month, day);
 }
 

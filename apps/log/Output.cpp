@@ -2,10 +2,10 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <pugixml.hpp>
-#include <ranges>
 #include <stdexcept>
 
 #include "apps/log/StyleSheet.h"

@@ -155,7 +155,7 @@ inline constexpr ControlRow<host::Edit> kEdits[] = {
     {"Chat_Custom_Action", &ControlHandler::ChatCustomAction},
     {"Chat_Log_Search", &ControlHandler::ChatLogSearch, &ControlHandler::ChatLogSearch_Change,
      &ControlHandler::ChatLogSearch_Change},
-    {"Chat_Log_AFK_Message", &ControlHandler::ChatLogAFKMessage},
+    {"Chat_Log_AFK_Message", &ControlHandler::ChatLogAFKMessage, nullptr, &ControlHandler::SaveOption},
     {"Chat_Log_Max", &ControlHandler::ChatLogMax, nullptr, &ControlHandler::ChatLogMax_End},
     {"Vitals_txtBlock", &ControlHandler::VitalsBlock},
     {"Vitals_txtSuccess", &ControlHandler::VitalsSuccess},
