@@ -1,7 +1,8 @@
 // What game texts set off, and what the player is told beside them.
 #include <fmt/format.h>
 
-#include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "automation/EventQueue.h"
 #include "chat/ChatLine.h"

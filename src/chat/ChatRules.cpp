@@ -6,6 +6,7 @@
 #include "chat/ChatLine.h"
 #include "chat/ChatTables.h"
 #include "chat/ChatTextHandler.h"
+#include "chat/Words.h"
 #include "config/ControlHandler.h"
 #include "core/FilterHandler.h"
 #include "core/Hub.h"
@@ -21,13 +22,10 @@ namespace {
 constexpr std::string_view kLinkBegin = "<Tell:IIDString:";
 constexpr std::string_view kLinkEnd = "<\\Tell>";
 constexpr std::int32_t kDefaultColor = -1;
-constexpr std::int32_t kOwnLineColor = 5;
 constexpr std::size_t kMaxLinkPosition = 32767;
 
 // Letters of window strings, in the order in which a line goes to the windows.
 constexpr std::string_view kWindowLetters = "m1234";
-
-bool IsLowerLetter(char c) { return c >= 'a' && c <= 'z'; }
 
 std::string_view Left(std::string_view text, std::size_t characters) {
     const std::size_t length = Length(text);
@@ -39,25 +37,12 @@ std::string_view Right(std::string_view text, std::size_t characters) {
     return characters < length ? text.substr(DropLast(text, characters).size()) : text;
 }
 
-template <class Row>
-std::vector<Row> ReadRows(const host::List& list, void (*read)(const host::List& list, std::int32_t row, Row& into)) {
-    std::vector<Row> rows(static_cast<std::size_t>(list.Count()));
-    for (std::size_t row = 0; row < rows.size(); ++row) {
-        try {
-            read(list, static_cast<std::int32_t>(row), rows[row]);
-        } catch (const Failure& failure) {
-            rows[row].failure = failure;
-        }
-    }
-    return rows;
-}
-
 void ReadFilterWord(const host::List& list, std::int32_t row, FilterWord& word) {
     word.enabled = CellFlag(list, 0, row);
     if (!word.enabled) return;
     word.word = Trim(ToLower(CellText(list, 1, row)));
     word.whole = CellText(list, 2, row) == "Whole";
-    if (word.whole) word.around.emplace("*[!a-z]" + word.word + "[!a-z]*");
+    if (word.whole) word.around = WordPattern(word.word);
 }
 
 void ReadCustomRule(const host::List& list, std::int32_t row, CustomRule& rule) {
@@ -85,14 +70,38 @@ std::string MaskWholeWord(std::string_view text, std::string_view word, bool& ma
     std::string lower = ToLower(padded);
     for (std::size_t at = lower.find(word); !word.empty() && at != std::string::npos;
          at = lower.find(word, at + word.size())) {
-        const std::size_t behind = at + word.size();
-        if (at == 0 || behind >= lower.size() || IsLowerLetter(lower[at - 1]) || IsLowerLetter(lower[behind])) continue;
+        if (!StandsAlone(lower, at, word.size())) continue;
 
         padded = padded.substr(0, at) + Replace(std::string_view(padded).substr(at), word, mask, 1);
         lower = ToLower(padded);
         masked = true;
     }
     return std::string(Trim(padded));
+}
+
+// The text without the link that begins at `start`: what stands before the link, and, with the first end of a link
+// taken out, what stands behind the first ">". One that stands before the link mangles the text.
+std::string WithoutLink(std::string_view text, std::size_t start) {
+    const std::size_t close = text.find('>') + 1;  // 0 when there is none
+    const std::size_t end = text.find(kLinkEnd);
+    if (text.size() > kMaxLinkPosition) {
+        if (Length(text.substr(0, start)) >= kMaxLinkPosition || Length(text.substr(0, close)) > kMaxLinkPosition)
+            throw Failure(failure::kOverflow);
+    }
+    std::string result;
+    result.reserve(text.size());
+    if (end == std::string_view::npos) return result.append(text.substr(0, start)).append(text.substr(close));
+    if (end >= start && end >= close) {
+        return result.append(text.substr(0, start))
+            .append(text.substr(close, end - close))
+            .append(text.substr(end + kLinkEnd.size()));
+    }
+    // The end comes first, and what is counted in the text without it stands elsewhere.
+    result.append(text.substr(0, end)).append(text.substr(end + kLinkEnd.size()));
+    const std::size_t length = Length(result);
+    const std::size_t cut = Length(text.substr(0, close));
+    if (length < cut) throw Failure(failure::kInvalidCall);
+    return std::string(Left(result, Length(text.substr(0, start)))).append(Right(result, length - cut));
 }
 
 // Window of a colour rule; 0 is the client's default.
@@ -139,8 +148,8 @@ bool ChatTextHandler::WordFilter(ChatLine& line) {
     const host::List& list = *Vars::ControlHandler->ChatFilter;
     std::string lower;  // with a blank at either end
     for (std::size_t row = 0;; ++row) {
-        const auto& words = tables_->filter_words.Get(
-            list, [](const host::List& rows) { return ReadRows<FilterWord>(rows, &ReadFilterWord); });
+        const auto& words =
+            tables_->filter_words.Get(list, [](const host::List& rows) { return ReadRows(rows, &ReadFilterWord); });
         if (row >= words.size()) return true;
 
         const FilterWord& word = words[row];
@@ -166,23 +175,14 @@ bool ChatTextHandler::WordFilter(ChatLine& line) {
     }
 }
 
-// Takes the client's name link out of the text for the log, and, where the player wants it, out of the line. A ">"
-// before the link mangles the result.
+// Takes the client's name link out of the text for the log, and, where the player wants it, out of the line.
 void ChatTextHandler::TellLinks(ChatLine& line) {
     line.plain = line.working;
     if (line.type >= chat_type::kOmbrel) return;
     const std::size_t start = line.working.find(kLinkBegin);
     if (start == std::string_view::npos) return;
 
-    const std::size_t close = line.working.find('>');
-    const std::size_t cut = close == std::string_view::npos ? 0 : Length(line.working.substr(0, close)) + 1;
-    const std::size_t before = Length(line.working.substr(0, start));
-    if (before >= kMaxLinkPosition || cut > kMaxLinkPosition) throw Failure(failure::kOverflow);
-
-    const std::string text = Replace(line.working, kLinkEnd, "", 1);
-    const std::size_t length = Length(text);
-    if (length < cut) throw Failure(failure::kInvalidCall);
-    line.plain = line.Keep(std::string(Left(text, before)).append(Right(text, length - cut)));
+    line.plain = line.Keep(WithoutLink(line.working, start));
     if (Option(ChatOption::kNoClickableNames)) {
         line.working = line.plain;
         line.rewrite = true;
@@ -194,8 +194,8 @@ void ChatTextHandler::TellLinks(ChatLine& line) {
 void ChatTextHandler::CustomRules(ChatLine& line) {
     const host::List& list = *Vars::ControlHandler->ChatCustom;
     for (std::size_t row = 0; !line.written; ++row) {
-        const auto& rules = tables_->custom_rules.Get(
-            list, [](const host::List& rows) { return ReadRows<CustomRule>(rows, &ReadCustomRule); });
+        const auto& rules =
+            tables_->custom_rules.Get(list, [](const host::List& rows) { return ReadRows(rows, &ReadCustomRule); });
         if (row >= rules.size()) return;
 
         const CustomRule& rule = rules[row];

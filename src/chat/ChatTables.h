@@ -68,6 +68,20 @@ struct Alias {
     std::optional<Failure> failure;
 };
 
+// Reads all rows of a rule list.
+template <class Row>
+std::vector<Row> ReadRows(const host::List& list, void (*read)(const host::List& list, std::int32_t row, Row& into)) {
+    std::vector<Row> rows(static_cast<std::size_t>(list.Count()));
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        try {
+            read(list, static_cast<std::int32_t>(row), rows[row]);
+        } catch (const Failure& failure) {
+            rows[row].failure = failure;
+        }
+    }
+    return rows;
+}
+
 struct ChatTables {
     // The pattern rows that a line of a type can match, in the order of ChatList. Types that the game does not have
     // only see the pseudo rows.

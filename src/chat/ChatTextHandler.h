@@ -29,6 +29,9 @@ constexpr std::int32_t kOmbrel = 32;   // the plug-in's own lines
 constexpr std::int32_t kForeign = 33;  // lines of other plug-ins; outside TargetList and Chat_Color
 }  // namespace chat_type
 
+// The colour in which the plug-in's own lines are written, unless a rule says otherwise.
+inline constexpr std::int32_t kOwnLineColor = 5;
+
 struct ChatLine;
 struct ChatTables;
 struct CustomRule;

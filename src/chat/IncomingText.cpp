@@ -19,8 +19,6 @@ namespace {
 // How deep lines may start other lines. A rule that feeds itself ends here.
 constexpr std::int32_t kMaxDepth = 24;
 
-constexpr std::int32_t kOwnLineColor = 5;
-
 }  // namespace
 
 bool ChatTextHandler::IncomingText(std::string_view text, std::int32_t color, std::int32_t target, bool rewrite,

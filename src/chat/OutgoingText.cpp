@@ -3,6 +3,7 @@
 
 #include "chat/ChatTables.h"
 #include "chat/ChatTextHandler.h"
+#include "chat/Words.h"
 #include "config/ControlHandler.h"
 #include "core/FilterHandler.h"
 #include "core/Vars.h"
@@ -18,8 +19,6 @@ namespace {
 // How deep expansions may lead to further expansions.
 constexpr std::int32_t kMaxDepth = 24;
 
-bool IsLowerLetter(char c) { return c >= 'a' && c <= 'z'; }
-
 bool IsCommand(std::string_view text) { return text.starts_with('/') || text.starts_with('@'); }
 
 void ReadAlias(const host::List& list, std::int32_t row, Alias& alias) {
@@ -29,19 +28,7 @@ void ReadAlias(const host::List& list, std::int32_t row, Alias& alias) {
     alias.full = CellText(list, 2, row);
     alias.command = IsCommand(alias.abbreviation);
     const std::string lower = ToLower(alias.abbreviation);
-    alias.pattern.emplace(alias.command ? "[/@]" + lower.substr(1) + "[!a-z]*" : "*[!a-z]" + lower + "[!a-z]*");
-}
-
-std::vector<Alias> ReadAliases(const host::List& list) {
-    std::vector<Alias> aliases(static_cast<std::size_t>(list.Count()));
-    for (std::size_t row = 0; row < aliases.size(); ++row) {
-        try {
-            ReadAlias(list, static_cast<std::int32_t>(row), aliases[row]);
-        } catch (const Failure& failure) {
-            aliases[row].failure = failure;
-        }
-    }
-    return aliases;
+    alias.pattern = alias.command ? LikePattern("[/@]" + lower.substr(1) + "[!a-z]*") : WordPattern(lower);
 }
 
 // The "/" or "@" that the player typed stays, unless the whole is to be typed into the chat box.
@@ -65,9 +52,7 @@ void ExpandWord(std::string& line, const Alias& alias) {
     std::size_t left = line.size();
     std::string lower = ToLower(line);
     for (std::size_t at = lower.find(word); at != std::string::npos; at = lower.find(word, at + word.size())) {
-        const std::size_t behind = at + word.size();
-        if (at == 0 || behind >= lower.size() || IsLowerLetter(lower[at - 1]) || IsLowerLetter(lower[behind])) continue;
-
+        if (!StandsAlone(lower, at, word.size())) continue;
         if (left-- == 0) throw Failure(failure::kStackSpace);
         line = line.substr(0, at) + ReplaceNoCase(std::string_view(line).substr(at), word, alias.full, 1);
         lower = ToLower(line);
@@ -107,7 +92,8 @@ bool ChatTextHandler::OutgoingText(const std::string& text) {
 
 // Returns whether an alias counted. Later word aliases work on what earlier ones made of the line.
 bool ChatTextHandler::ExpandAliases(std::string& line, bool& typeIt) {
-    const std::vector<Alias>& aliases = tables_->aliases.Get(*Vars::ControlHandler->ChatAlias, &ReadAliases);
+    const std::vector<Alias>& aliases = tables_->aliases.Get(
+        *Vars::ControlHandler->ChatAlias, [](const host::List& rows) { return ReadRows(rows, &ReadAlias); });
     bool changed = false;
     if (IsCommand(line)) {
         const std::string lower = ToLower(line) + " ";
