@@ -235,9 +235,15 @@ TEST(SessionPlayer, MakesTheNextCallsFail) {
     });
     EXPECT_EQ(failed, 1);
 
-    // One that is only asked is never recorded, but reported.
-    replay.Play(R"({"fail": "CharacterStats.Level", "times": 2, "number": 91, "description": "no sheet"})");
-    EXPECT_TRUE(replay.client.calls.WillFail(*FindOperation("CharacterStats.Level")));
+    // One that is only asked is never recorded. Six drinks are looked for, and two searches fail.
+    replay.Play(R"({"fail": "World.Inventory", "times": 2, "number": 91, "description": "gone"}
+                   {"event": "HK_HotkeyEvent", "name": "OM:DrinkBeersNow"})");
+    const auto after = replay.Output();
+    const auto reports = std::count_if(after.begin(), after.end(), [](const std::string& line) {
+        return line.find("Error #91 occured in 'GetIDinInv'") != std::string::npos;
+    });
+    EXPECT_EQ(reports, 2);
+    EXPECT_THAT(after, Not(Contains(HasSubstr("Inventory"))));
 }
 
 TEST(SessionPlayer, FiresEachDueTimerOnceAfterAHang) {
