@@ -4,3 +4,7 @@ if(OMBREL_SANITIZE)
   add_compile_definitions(_GLIBCXX_ASSERTIONS)
   add_link_options(-fsanitize=address,undefined)
 endif()
+# A fuzzer needs to see the way that an input takes through the code.
+if(OMBREL_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()

@@ -46,8 +46,8 @@ std::string Experience() {
 std::string LevelReport() {
     return fmt::format("{} needs {} XP to reach level {} ({}% Complete). It will take {} at the current rate.",
                        Vars::FilterHandler->GetMyCharName(), Vars::ControlHandler->XPNext->Text(),
-                       Vars::FilterHandler->GetMyCharLevel() + 1, NumberText(Vars::Statistics->BarPercent),
-                       Vars::Statistics->TimetoLevel());
+                       NumberText(Vars::FilterHandler->GetMyCharLevel() + 1.0),
+                       NumberText(Vars::Statistics->BarPercent), Vars::Statistics->TimetoLevel());
 }
 
 std::string OwnLocation() { return "My Location: " + Location(); }

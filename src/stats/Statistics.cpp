@@ -37,7 +37,7 @@ bool ChatOption(std::string_view name) {
 
 }  // namespace
 
-double ExperienceOfLevel(std::int32_t level, std::int32_t character_level) {
+double ExperienceOfLevel(double level, std::int32_t character_level) {
     if (level <= 1) return 0.0;
     if (level == 2) return 1000.0;
     if (level == 3 && character_level <= 2) return 2777.0;
@@ -53,7 +53,7 @@ Statistics::~Statistics() { wtcw_debug("Statistics Terminate"); }
 void Statistics::ComputeLevel() {
     const std::int32_t level = std::max(Vars::FilterHandler->GetMyCharLevel(), 1);
     XPAtThisLevel = ExperienceOfLevel(level, level);
-    XPAtNextLevel = ExperienceOfLevel(level + 1, level);
+    XPAtNextLevel = ExperienceOfLevel(level + 1.0, level);
     XPToNextLevel = XPAtNextLevel - CharTotalXP;
     XPForThisLevel = XPAtNextLevel - XPAtThisLevel;
 }

@@ -79,6 +79,6 @@ private:
 };
 
 // Total experience at which a level is reached, by the game's own curve: exact up to 126, rounded to nearest above.
-double ExperienceOfLevel(std::int32_t level, std::int32_t character_level);
+double ExperienceOfLevel(double level, std::int32_t character_level);
 
 }  // namespace ombrel
