@@ -35,8 +35,11 @@ struct Line {
     bool (*value)(std::string& text) = nullptr;
 };
 
+// Nothing to show while the client does not know where the character stands, as on the way into the world.
 bool Coordinates(std::string& text) {
-    text = Vars::FilterHandler->GetCharCoords();
+    auto& filter = *Vars::FilterHandler;
+    if (!filter.ItemExists(filter.GetMyCharGUID())) return false;
+    text = filter.GetCharCoords();
     return true;
 }
 
