@@ -65,7 +65,8 @@ protected:
         pugi::xml_document document;
         const std::string text = Saved();
         EXPECT_TRUE(document.load_buffer(text.data(), text.size())) << text;
-        for (const pugi::xml_node& node : document.document_element().children(std::string(element).c_str())) {
+        const std::string tag(element);  // outlives the walk
+        for (const pugi::xml_node& node : document.document_element().children(tag.c_str())) {
             if (name.empty() || node.attribute("name").value() == name)
                 return node.attribute(std::string(attribute).c_str()).as_string("(missing)");
         }
