@@ -82,6 +82,7 @@ void SessionPlayer::Run(const Record& record) {
             break;
         case RecordKind::kNote:
             if (recorder_) recorder_->Note(TextOf(record.json, "note"));
+            if (note_listener) note_listener(TextOf(record.json, "note"));
             break;
     }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -25,6 +26,9 @@ public:
 
     // Starts the plug-in where nothing has yet.
     void Begin();
+
+    // Told of each note on the way.
+    std::function<void(std::string_view text)> note_listener;
 
 private:
     void CheckNow(const Record& record);

@@ -16,6 +16,7 @@ constexpr std::array<std::uint32_t, 32> kChatColors = {
     0x7FFF7E, 0x7FFF7E, 0xFF544E, 0xB4DCEF, 0xB4DCEF, 0xB4DCEF, 0xB4DCEF, 0xEBEB3A,
 };
 constexpr std::string_view kDim = "\x1b[2m";
+constexpr std::string_view kBold = "\x1b[1m";
 constexpr std::string_view kReset = "\x1b[0m";
 
 constexpr std::string_view kLinkStart = "<Tell:";
@@ -70,6 +71,14 @@ void Transcript::Show(const Client::ChatLine& line) {
     if (ansi) buffer_ += kReset;
     buffer_ += '\n';
     out_ << buffer_;
+}
+
+void Transcript::ShowNote(std::string_view text) {
+    const std::string heading = ReadableChat(text);
+    if (colors_ == Colors::kAnsi)
+        out_ << '\n' << kBold << heading << kReset << '\n';
+    else
+        out_ << "\n-- " << heading << " --\n";
 }
 
 }  // namespace ombrel::sim

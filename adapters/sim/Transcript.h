@@ -23,6 +23,9 @@ public:
     // "[00:00:05] [main] You say, "hello""; the floating windows go by their number.
     void Show(const Client::ChatLine& line);
 
+    // A note of the session, as a heading of what follows.
+    void ShowNote(std::string_view text);
+
 private:
     std::ostream& out_;
     Colors colors_;

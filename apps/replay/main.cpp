@@ -163,6 +163,7 @@ int Run(const Options& options) {
     const Silence at_end{client};
 
     sim::SessionPlayer player(client, recorder ? &*recorder : nullptr);
+    if (options.transcript) player.note_listener = [&transcript](std::string_view text) { transcript.ShowNote(text); };
     for (const auto& session : sessions) PlaySession(player, *session, recorder ? &*recorder : nullptr);
     if (chat) FeedChat(client, player, recorder ? &*recorder : nullptr, *chat, options.sessions.empty());
 
