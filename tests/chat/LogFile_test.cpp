@@ -260,6 +260,7 @@ TEST_F(LogFileTest, AKillInTheMidstOfWritingLosesNoLineThatWasWritten) {
         close(done[0]);
 
         XmlLog log(Path("a.xml"));
+        if (expected == 0 && !FileExists(Path("a.xml"))) continue;  // killed before its first line
         const auto messages = Messages("a.xml");
         ASSERT_GE(messages.size(), expected);
         ASSERT_LE(messages.size(), expected + 1) << "a line twice";
