@@ -11,11 +11,10 @@ namespace ombrel::fuzz {
 namespace {
 
 constexpr std::size_t kLongest = 4000;
-constexpr std::size_t kMostLines = 40;
+constexpr std::size_t kMostLines = 20;
 
 void Play(std::string_view script) {
     Game& game = Game::Shared();
-    game.Calm();
     std::size_t heard = 0;
     for (const std::string_view line : Lines(script)) {
         const Statement statement(line);
@@ -33,7 +32,7 @@ void Play(std::string_view script) {
                 game.Hear(2, 0, line);
         }
     }
-    game.RequirePlainLinesPass();
+    game.EndCalmly();
 }
 
 }  // namespace

@@ -108,7 +108,6 @@ void Send(Game& game, bool from_server, std::string_view text) {
 
 void Play(std::string_view script) {
     Game& game = Game::Shared();
-    game.Calm();
     Vars::NetEchoHandler->ResetHealth();
     Vars::NetEchoHandler->ResetXPBools();
     for (const std::string_view line : Lines(script)) {
@@ -116,7 +115,7 @@ void Play(std::string_view script) {
         if (game.Do(statement)) continue;
         Send(game, line.starts_with('s'), statement.From(1));
     }
-    game.RequirePlainLinesPass();
+    game.EndCalmly();
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ namespace {
 constexpr const char* kResources = OMBREL_RESOURCES;
 constexpr const char* kDefaultSettings = "Ombrel/Settings/Ombrel_Settings.xml";
 constexpr host::Id kFirstThing = 0x70000000;
-constexpr std::int64_t kLongestWait = 100;
+constexpr std::int64_t kLongestWait = 10;
 
 // More than any sound set of rules writes for one line, and far less than what would stop the game.
 constexpr std::size_t kMostLines = 5000;
@@ -123,6 +123,7 @@ Game::Game() {
     client.Start();
     client.LoginComplete();
     Require(Vars::Loaded, "the login did not work");
+    Calm();
 }
 
 void Game::Calm() {
@@ -170,7 +171,7 @@ bool Game::Hear(std::int32_t type, std::int32_t window, std::string_view text) {
     return eaten;
 }
 
-void Game::RequirePlainLinesPass() {
+void Game::EndCalmly() {
     Calm();
     Require(!Hear(2, 0, "Tom says, \"hello\""), "a plain line was eaten");
     Require(!client.ChatParser("hello there"), "a plain typed line was eaten");

@@ -54,8 +54,8 @@ public:
     // The client shows a line; returns whether the plug-in ate it.
     bool Hear(std::int32_t type, std::int32_t window, std::string_view text);
 
-    // Whether a plain line, heard and typed, passes as if there were no plug-in.
-    void RequirePlainLinesPass();
+    // Calms down for the next input, and fails unless a plain line, heard and typed, passes as without a plug-in.
+    void EndCalmly();
 
     void Forget();  // what was written so far
 

@@ -145,7 +145,8 @@ private:
     std::unique_ptr<ChatTables> tables_;
     std::int32_t incoming_depth_ = 0;
     std::int32_t outgoing_depth_ = 0;
-    bool chain_broken_ = false;  // rules have fed themselves too deep: no more actions until the outermost pass ends
+    std::int32_t chain_length_ = 0;  // lines that the outermost one has started, and itself
+    bool chain_broken_ = false;      // too deep or too many: no more actions until the outermost pass ends
 };
 
 }  // namespace ombrel

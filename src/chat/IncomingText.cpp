@@ -16,8 +16,10 @@ namespace ombrel {
 
 namespace {
 
-// How deep lines may start other lines. A rule that feeds itself ends here.
+// How deep lines may start other lines, and how many one line may start in all. Rules that feed themselves or each
+// other end here, and the game goes on.
 constexpr std::int32_t kMaxDepth = 24;
+constexpr std::int32_t kMaxChain = 1000;
 
 }  // namespace
 
@@ -25,8 +27,14 @@ bool ChatTextHandler::IncomingText(std::string_view text, std::int32_t color, st
                                    bool fromHost) {
     ChatLine line(text, color, target, rewrite);
     try {
-        if (incoming_depth_ == 0) chain_broken_ = false;
-        if (incoming_depth_ >= kMaxDepth) chain_broken_ = true;
+        if (incoming_depth_ == 0) {
+            chain_broken_ = false;
+            chain_length_ = 0;
+        }
+        if (incoming_depth_ >= kMaxDepth || ++chain_length_ > kMaxChain) {
+            chain_broken_ = true;
+            throw Failure(failure::kStackSpace);
+        }
         const DepthGuard guard(incoming_depth_, kMaxDepth);
         RunStages(line, fromHost);
     } catch (...) {

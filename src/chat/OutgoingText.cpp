@@ -19,6 +19,9 @@ namespace {
 // How deep expansions may lead to further expansions.
 constexpr std::int32_t kMaxDepth = 24;
 
+// How long expansions may make a line: far longer than the client's chat box takes.
+constexpr std::size_t kMaxLength = 10'000;
+
 bool IsCommand(std::string_view text) { return text.starts_with('/') || text.starts_with('@'); }
 
 void ReadAlias(const host::List& list, std::int32_t row, Alias& alias) {
@@ -53,7 +56,7 @@ void ExpandWord(std::string& line, const Alias& alias) {
     std::string lower = ToLower(line);
     for (std::size_t at = lower.find(word); at != std::string::npos; at = lower.find(word, at + word.size())) {
         if (!StandsAlone(lower, at, word.size())) continue;
-        if (left-- == 0) throw Failure(failure::kStackSpace);
+        if (left-- == 0 || line.size() > kMaxLength) throw Failure(failure::kStackSpace);
         line = line.substr(0, at) + ReplaceNoCase(std::string_view(line).substr(at), word, alias.full, 1);
         lower = ToLower(line);
     }

@@ -144,11 +144,14 @@ void LikePattern::EndRun() {
     runs_.push_back({begin, static_cast<std::uint32_t>(items_.size())});
 }
 
+// Whether it stands for the same bytes in every text. Bytes that are no character all match U+FFFD.
+bool LikePattern::IsLiteral(const Item& item) { return item.kind == Item::Kind::kUnit && item.unit != 0xFFFD; }
+
 // The bytes of the characters from `begin` up to the first that is not literal, or `end`.
 std::string LikePattern::LiteralOf(std::uint32_t begin, std::uint32_t end) const {
     std::string text;
     char32_t high = 0;
-    for (auto i = begin; i < end && items_[i].kind == Item::Kind::kUnit; ++i) {
+    for (auto i = begin; i < end && IsLiteral(items_[i]); ++i) {
         const char32_t unit = items_[i].unit;
         if (unit >= 0xD800 && unit < 0xDC00) {
             high = unit;
@@ -162,13 +165,12 @@ std::string LikePattern::LiteralOf(std::uint32_t begin, std::uint32_t end) const
 }
 
 void LikePattern::PrepareLiterals() {
-    const auto is_literal = [](const Item& item) { return item.kind == Item::Kind::kUnit; };
-    literal_ = std::all_of(items_.begin(), items_.end(), is_literal);
+    literal_ = std::all_of(items_.begin(), items_.end(), &IsLiteral);
     prefix_ = LiteralOf(runs_.front().begin, runs_.front().end);
     if (!literal_ || star_) {
         const auto last = runs_.back();
         auto begin = last.end;
-        while (begin > last.begin && is_literal(items_[begin - 1])) --begin;
+        while (begin > last.begin && IsLiteral(items_[begin - 1])) --begin;
         suffix_ = LiteralOf(begin, last.end);
     }
     shortest_ = prefix_.size() + suffix_.size();

@@ -67,6 +67,7 @@ private:
     std::size_t ParseList(std::u16string_view pattern, std::size_t at);
     void EndRun();
     void PrepareLiterals();
+    static bool IsLiteral(const Item& item);
     std::string LiteralOf(std::uint32_t begin, std::uint32_t end) const;
     bool MatchesAll(std::string_view text) const;
     bool MatchesLiterals(std::string_view text) const;

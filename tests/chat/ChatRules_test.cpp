@@ -1,3 +1,5 @@
+#include <fmt/format.h>
+
 #include "core/Hub.h"
 #include "tests/chat/ChatTest.h"
 
@@ -161,6 +163,17 @@ TEST_F(ChatRulesTest, ARuleThatFeedsItselfEndsWithOneReport) {
     CustomRule("ping", "M", "2", "Red", "[12]pong;/f told");
     EXPECT_THAT(Written("ping", 2), ElementsAre(Line{"ping", 21, 1}, Line{"pong", 12, 1}));
     EXPECT_THAT(Commands(), ElementsAre("/f told"));
+}
+
+TEST_F(ChatRulesTest, RulesThatMultiplyLinesEndWithOneReport) {
+    for (int type = 2; type < 9; ++type) {
+        std::string actions;
+        for (int i = 0; i < 10; ++i) actions += fmt::format("[{}]echo;", type + 1);
+        CustomRule("echo", "M", std::to_string(type), "Red", actions);
+    }
+    Shown("echo", 2);
+    EXPECT_THAT(TakeReports(), ElementsAre("Error #28 occured in 'IncomingText' of class 'ChatTextHandler'"));
+    EXPECT_LT(lines.size(), 1100u);
 }
 
 TEST_F(ChatRulesTest, ABrokenPatternFailsItsOwnLinesAndTheRulesBeforeItWork) {

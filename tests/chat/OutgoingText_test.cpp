@@ -226,5 +226,17 @@ TEST_F(OutgoingTextTest, AnAliasThatBringsItselfUpEndsInOneReport) {
     EXPECT_TRUE(Passes("hello"));
 }
 
+TEST_F(OutgoingTextTest, AliasesThatMultiplyWordsEndInOneReport) {
+    for (const char* alias : {"a", "b", "c", "d", "e", "f", "g", "h"}) {
+        const std::string next(1, static_cast<char>(alias[0] + 1));
+        std::string ten;
+        for (int i = 0; i < 10; ++i) ten += next + " ";
+        Alias(alias, ten);
+    }
+    EXPECT_TRUE(Passes("a"));
+    EXPECT_THAT(TakeReports(), ElementsAre("Error #28 occured in 'OutgoingText' of class 'ChatTextHandler'"));
+    EXPECT_THAT(Commands(), IsEmpty());
+}
+
 }  // namespace
 }  // namespace ombrel::test

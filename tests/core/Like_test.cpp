@@ -57,6 +57,8 @@ TEST(Like, FollowsItsTable) {
         {"\U0001F600", "?", false},  // two codes
         {"\U0001F600", "??", true},
         {"\U0001F600!", "\U0001F600?", true},
+        {"\xff says", "\xfe says", true},  // bytes that are no character are alike
+        {"\xff says", "\xfe*", true},
     };
     for (const auto& row : cases)
         EXPECT_EQ(LikeMatch(row.text, row.pattern), row.matches) << row.text << " like " << row.pattern;
