@@ -27,7 +27,7 @@ std::uint64_t FileSize(const std::string& path) {
 // The last bytes of a file, at most `count`; none of a file that can't be read.
 std::string EndOf(const std::string& path, std::uint64_t count) {
     count = std::min(count, FileSize(path));
-    std::string end(count, '\0');
+    std::string end(static_cast<std::size_t>(count), '\0');
     std::ifstream file(NativePath(path), std::ios::binary);
     file.seekg(-static_cast<std::streamoff>(count), std::ios::end);
     if (!file.read(end.data(), static_cast<std::streamsize>(count))) end.clear();
