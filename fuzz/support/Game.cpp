@@ -139,6 +139,7 @@ void Game::Calm() {
     chat.SpellsExpiring.clear();
     chat.templeEnlightenPending = chat.templeForgetPending = chat.showChatTypes = chat.expireFlag = false;
     Vars::DebugMode = Vars::DebugSilent = false;
+    Vars::LastKillText = "Nothing was killed.";
     Vars::FilterHandler->FriendsCheck = Vars::FilterHandler->DevMode = false;
     Vars::EventQueue->Clear();
     Vars::EventQueue->autorun = false;
