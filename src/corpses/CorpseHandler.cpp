@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "config/ControlHandler.h"
+#include "config/ControlTools.h"
 #include "core/FilterHandler.h"
 #include "core/Hub.h"
 #include "core/Vars.h"
@@ -19,8 +20,6 @@
 namespace ombrel {
 namespace {
 
-constexpr std::int32_t kDeleteIcon = 0x60011F8;
-constexpr std::int32_t kSelected = 0x00FFFF80;
 constexpr std::int32_t kSecondsPerLevel = 300;
 constexpr std::int32_t kShortestDecay = 60;
 
@@ -60,9 +59,9 @@ void CorpseHandler::UpdateCorpseList() try {
         list.SetData(0, row, corpse.Dungeon ? "Dungeon" : filter.ConvCoords(corpse.NS, corpse.EW));
         list.SetData(1, row, filter.ConvCoords(ns - corpse.NS, ew - corpse.EW));
         list.SetData(2, row, ConvTime(static_cast<double>(corpse.time) - now));
-        list.SetData(3, row, kDeleteIcon, 1);
+        list.SetData(3, row, icon::kDelete, 1);
     }
-    list.SetColor(0, std::max(controls.SelectedCorpse, 0), kSelected);
+    list.SetColor(0, std::max(controls.SelectedCorpse, 0), kHighlight);
 } catch (...) {
     ReportFailure("UpdateCorpseList", "CorpseHandler");
 }

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "config/ControlHandler.h"
+#include "config/ControlTools.h"
 #include "core/FilterHandler.h"
 #include "core/Hub.h"
 #include "core/Vars.h"
@@ -20,8 +21,7 @@
 namespace ombrel {
 namespace {
 
-constexpr std::int32_t kNever = 99999;          // sorts a spell that doesn't end behind all that do
-constexpr std::int32_t kSelected = 0x00FFFF80;  // marks the tracked spell in the list
+constexpr std::int32_t kNever = 99999;  // sorts a spell that doesn't end behind all that do
 
 // The moment so many seconds from another.
 std::int32_t Later(std::int32_t moment, std::int32_t seconds) {
@@ -195,7 +195,7 @@ std::int32_t SpellHandler::CountDown(std::int32_t now) {
         list.SetData(1, row, std::move(name));
         list.SetData(2, row, ConvTime(spell->timeRemaining));
         if (tracked) {
-            list.SetColor(1, row, kSelected);
+            list.SetColor(1, row, kHighlight);
             noted = spell->timeRemaining;
         }
     }

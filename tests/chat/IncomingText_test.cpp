@@ -228,7 +228,7 @@ TEST_F(IncomingTextTest, TheLinesOfTheGamePassUnharmed) {
     const std::string path = OMBREL_SOURCE_DIR "/../shared/data/chat-lines.tsv";
     const char* const elsewhere = std::getenv("OMBREL_DATA");
     std::ifstream file(elsewhere ? std::string(elsewhere) + "/chat-lines.tsv" : path);
-    if (!file) GTEST_SKIP() << "set OMBREL_DATA to a folder with chat-lines.tsv";
+    if (!file) GTEST_SKIP() << "waits for real chat lines: set OMBREL_DATA to a folder with chat-lines.tsv";
 
     RuleAll();
     std::string line;
