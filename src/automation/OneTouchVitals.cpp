@@ -10,7 +10,6 @@
 #include "core/Vars.h"
 #include "core/convert.h"
 #include "core/failure.h"
-#include "core/text.h"
 
 namespace ombrel {
 namespace {
@@ -28,9 +27,6 @@ constexpr double kCombatDifficulty = 2.6;
 constexpr double kExhausted = 1000.0;  // more difficulty for a character out of stamina
 constexpr double kExhaustedShare = 0.04;
 constexpr std::int32_t kFarthestFood = 999;
-
-// The text of a percent box as a share.
-double Share(const host::Edit& percent) { return ToDouble(Replace(percent.Text(), "%", "")) / 100.0; }
 
 double ShareOf(std::int32_t current, std::int32_t maximum) {
     if (maximum == 0) throw Failure(failure::kDivisionByZero);
@@ -107,7 +103,7 @@ bool FilterHandler::UseFood(std::int32_t vital) try {
     const std::int32_t maximum = CharStats->Vital(vital);
     const std::int32_t needed = maximum - current;
     if (Vars::DebugMode) wtcw_debug("Needed Vital: " + NumberText(needed));
-    if (ShareOf(current, maximum) > Share(*options.VitalsBlock)) {
+    if (ShareOf(current, maximum) > ToShare(options.VitalsBlock->Text())) {
         wtcw_debug("Use Food Blocked due to high vital");
         return false;
     }
@@ -147,14 +143,14 @@ bool FilterHandler::UseKit(bool fallback) try {
     if (Vars::DebugMode)
         wtcw_debug(fmt::format("Healing - Needed Health: {}, Difficulty: {}", needed, NumberText(difficulty)));
     const double share = ShareOf(health, maximum);
-    if (share > Share(*options.VitalsBlock)) {
+    if (share > ToShare(options.VitalsBlock->Text())) {
         wtcw_debug("Use Kit Blocked due to high health");
         return false;
     }
 
     const std::int32_t skill = CharStats->Skill(kHealingSkill);
-    const double success = Share(*options.VitalsSuccess);
-    const bool conserve = share > Share(*options.VitalsCheap);
+    const double success = ToShare(options.VitalsSuccess->Text());
+    const bool conserve = share > ToShare(options.VitalsCheap->Text());
     Kit best;
     ChooseKit(*World, skill, difficulty, best, [&](const Kit& kit, const Kit& so_far) {
         const bool wins = kit.chance > success && (conserve ? kit.Value() < so_far.Value() : kit.regen > so_far.regen);
@@ -170,7 +166,7 @@ bool FilterHandler::UseKit(bool fallback) try {
     if (Vars::DebugMode)
         wtcw_debug(fmt::format("Healing Best Fit - Success: {}, Regen: {}, Bonus: {}", NumberText(best.chance),
                                NumberText(best.regen), best.bonus));
-    if (fallback && best.chance < Share(*options.VitalsFallback)) {
+    if (fallback && best.chance < ToShare(options.VitalsFallback->Text())) {
         wtcw_debug("Healing Smart Mode - Too low chance of success, using health food");
         if (UseFood(host::vital::kHealth)) return true;
     }

@@ -6,6 +6,7 @@
 #include "chat/ChatTextHandler.h"
 #include "config/ControlHandler.h"
 #include "config/ControlTools.h"
+#include "config/Effects.h"
 #include "core/FilterHandler.h"
 #include "core/Vars.h"
 #include "core/cells.h"
@@ -69,21 +70,12 @@ std::optional<std::int32_t> FindRow(const host::List& list, std::string_view nam
     return std::nullopt;
 }
 
-void SwapRows(host::List& list, std::int32_t columns, std::int32_t a, std::int32_t b) {
-    for (std::int32_t column = 0; column < columns; ++column) {
-        const std::int32_t subs = column == custom_list::kMarker ? 2 : 1;
-        for (std::int32_t sub = 0; sub < subs; ++sub) {
-            host::Cell kept = list.Data(column, a, sub);
-            list.SetData(column, a, list.Data(column, b, sub), sub);
-            list.SetData(column, b, std::move(kept), sub);
-        }
-    }
+void SwapRules(host::List& list, std::int32_t a, std::int32_t b) {
+    for (std::int32_t column = 0; column <= custom_list::kAction; ++column) SwapCells(list, column, a, b);
+    SwapCells(list, custom_list::kMarker, a, b, 1);
 }
 
 }  // namespace
-
-void ControlHandler::SaveOption() { Settings_Save(0); }
-void ControlHandler::SaveList(std::int32_t, std::int32_t) { Settings_Save(0); }
 
 // Experience.
 
@@ -96,22 +88,17 @@ void ControlHandler::ResetTime_Accepted() try {
 
 // The plug-in's own lines.
 
-void ControlHandler::OutputWindow_Change() try {
-    const std::array boxes{OutputMain, Output1, Output2, Output3, Output4};
-    for (std::size_t window = 0; window < boxes.size(); ++window) {
-        Vars::ChatTextHandler->SetTargetList(static_cast<std::int32_t>(window), chat_type::kOmbrel,
-                                             boxes[window]->Checked());
-    }
-    Settings_Save(0);
-} catch (...) {
-    ReportFailure("OutputMain_Change", "ControlHandler");
+void effect::PassOutput(ControlHandler& controls, std::int32_t window) {
+    const std::array boxes{controls.OutputMain, controls.Output1, controls.Output2, controls.Output3, controls.Output4};
+    const bool shown = boxes[static_cast<std::size_t>(window)]->Checked();
+    Vars::ChatTextHandler->SetTargetList(window, chat_type::kOmbrel, shown);
 }
 
 // Colour rules: the choices below the list show the marked row, and change it.
 
 void ControlHandler::ChatColor_Change(std::int32_t, std::int32_t row) try {
     host::List& list = *ChatColor;
-    if (row < 0 || row >= list.Count()) return;
+    if (!HasRow(list, row)) return;
     MoveMark(list, chat_color_row_, row);
     SelectText(*ChatColorColor, MarkerColor(list, color_list::kMarker, row));
     SelectData(*ChatColorWindow, CellText(list, color_list::kWindow, row));
@@ -154,7 +141,7 @@ void ControlHandler::WriteCustomRule(std::int32_t row) {
     list.SetData(custom_list::kAction, row, ChatCustomAction->Text());
 }
 
-bool ControlHandler::HasCustomRow() const { return chat_custom_row_ >= 0 && chat_custom_row_ < ChatCustom->Count(); }
+bool ControlHandler::HasCustomRow() const { return HasRow(*ChatCustom, chat_custom_row_); }
 
 void ControlHandler::ChatCustomAdd_Accepted() try {
     const std::int32_t row = ChatCustom->AddRow();
@@ -184,7 +171,7 @@ void ControlHandler::ChatCustomDelete_Accepted() try {
 void ControlHandler::MoveCustomRule(std::int32_t by) {
     const std::int32_t to = chat_custom_row_ + by;
     if (HasCustomRow() && to >= 0 && to < ChatCustom->Count()) {
-        SwapRows(*ChatCustom, custom_list::kAction + 1, chat_custom_row_, to);
+        SwapRules(*ChatCustom, chat_custom_row_, to);
         MoveMark(*ChatCustom, chat_custom_row_, to);
     }
     Settings_Save(0);
@@ -201,7 +188,7 @@ void ControlHandler::ChatCustomDown_Accepted() try { MoveCustomRule(1); } catch 
 // A click shows the rule in the fields below; a click on its box has switched it.
 void ControlHandler::ChatCustom_Change(std::int32_t, std::int32_t row) try {
     const host::List& list = *ChatCustom;
-    if (row < 0 || row >= list.Count()) return;
+    if (!HasRow(list, row)) return;
     MoveMark(*ChatCustom, chat_custom_row_, row);
     ChatCustomText->SetText(CellText(list, custom_list::kText, row));
     ChatCustomWindow->SetText(CellText(list, custom_list::kWindow, row));
@@ -235,7 +222,7 @@ void ControlHandler::FilterAdd_Accepted() try {
 }
 
 void ControlHandler::ChatFilter_Change(std::int32_t column, std::int32_t row) try {
-    if (row < 0 || row >= ChatFilter->Count()) return;
+    if (!HasRow(*ChatFilter, row)) return;
     if (column == kFilterDelete) ChatFilter->DeleteRow(row);
     Settings_Save(0);
 } catch (...) {
@@ -262,7 +249,7 @@ void ControlHandler::AliasAdd_Accepted() try {
 // A click on a name brings it back into the fields.
 void ControlHandler::ChatAlias_Change(std::int32_t column, std::int32_t row) try {
     host::List& list = *ChatAlias;
-    if (row < 0 || row >= list.Count()) return;
+    if (!HasRow(list, row)) return;
     if (column == kAliasDelete) {
         list.DeleteRow(row);
     } else if (column != 0) {

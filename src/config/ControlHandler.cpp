@@ -37,21 +37,23 @@ struct KindOf<ControlRow<Kind>> {
     using type = Kind;
 };
 
-// Sets the slots of a control's events: to a call of the row's procedure, or to nothing.
+template <class Procedure, class... Arguments>
+void Respond(ControlHandler& controls, const Answer<Procedure>& answer, const Arguments&... arguments) {
+    if (!Vars::Loaded) return;
+    if (const auto* option = std::get_if<Option>(&answer)) return controls.ChangeOption(*option);
+    const Procedure procedure = std::get<Procedure>(answer);
+    if constexpr (std::is_same_v<Procedure, ListEvent>)
+        (controls.*procedure)(arguments...);
+    else
+        (controls.*procedure)();
+}
+
+// Sets the slots of a control's events: to the row's answer, or to nothing.
 template <class Kind>
 void Attach(Kind& control, const ControlRow<Kind>& row, ControlHandler* handler) {
-    const auto call = [handler](auto procedure) {
-        return [handler, procedure](auto... arguments) {
-            if (!Vars::Loaded) return;
-            if constexpr (std::is_same_v<decltype(procedure), ListEvent>)
-                (handler->*procedure)(arguments...);
-            else
-                (handler->*procedure)();
-        };
-    };
-    const auto attach = [&](auto& slot, auto procedure) {
-        if (handler && procedure)
-            slot = call(procedure);
+    const auto attach = [&](auto& slot, const auto& answer) {
+        if (handler && answer.index() != 0)
+            slot = [handler, &answer](const auto&... arguments) { Respond(*handler, answer, arguments...); };
         else
             slot = nullptr;
     };
@@ -111,6 +113,13 @@ void ControlHandler::ReleaseControls() try {
     });
 } catch (...) {
     ReportFailure("ReleaseControls", "ControlHandler");
+}
+
+void ControlHandler::ChangeOption(const Option& option) try {
+    if (option.apply) option.apply(*this, option.which);
+    Settings_Save(0);
+} catch (...) {
+    ReportFailure(option.procedure, "ControlHandler");
 }
 
 }  // namespace ombrel

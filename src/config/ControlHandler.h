@@ -20,6 +20,8 @@
 
 namespace ombrel {
 
+struct Option;
+
 class ControlHandler {
 public:
     ControlHandler();
@@ -47,13 +49,38 @@ public:
     // "ChatLog".
     std::int32_t FindName(std::string_view name, std::string_view list);
 
-    void HudOn_Change();
+    // Whether the player has ticked a row of ChatOptions. A name that the list lacks is failure 9.
+    bool ChatOption(std::string_view name);
 
-    // What controls do when the player changes them. SaveOption serves all that are only stored.
-    void SaveOption();
-    void SaveList(std::int32_t column, std::int32_t row);
+    // Lets an option take effect, and saves it.
+    void ChangeOption(const Option& option);
+
+    // What controls do when the player uses them, where it is more than the change of an option.
+    void ReloadSettings_Accepted();
+    void ReloadDefault_Accepted();
+    void SetDefault_Accepted();
+    void GlobalSettings_Change();
     void ResetTime_Accepted();
-    void OutputWindow_Change();
+    void BuffList_Change(std::int32_t column, std::int32_t row);
+    void CorpsesList_Change(std::int32_t column, std::int32_t row);
+    void VitalsAddExceptionBtn_Accepted();
+    void VitalsAddExceptionSel_Accepted();
+    void VitalsExceptions_Change(std::int32_t column, std::int32_t row);
+    void HudOn_Change();
+    void HudGeneral_Change(std::int32_t column, std::int32_t row);
+    void HudGeneralFont_Change();
+    void HudGeneralSize_Change();
+    void HudGeneralBGColor_Change();
+    void HudGeneralBGAlpha_Change();
+    void HudList_Change(std::int32_t column, std::int32_t row);
+    void HudMainColor_Change();
+    void HudMainAll_Accepted();
+    void HudClockList_Change(std::int32_t column, std::int32_t row);
+    void HudClockColor_Change();
+    void HudClockAll_Accepted();
+    void HudItemsAdd_Accepted();
+    void HudItemsSel_Accepted();
+    void HudItems_Change(std::int32_t column, std::int32_t row);
     void ChatColor_Change(std::int32_t column, std::int32_t row);
     void ChatColorColor_Change();
     void ChatColorWindow_Change();
@@ -275,9 +302,14 @@ private:
     void WriteCustomRule(std::int32_t row);
     void MoveCustomRule(std::int32_t by);
     bool HasCustomRow() const;
+    void AddItem(const std::string& name, std::int32_t icon);
+    void AddException(const std::string& name);
 
     std::int32_t chat_color_row_ = 0;  // the marked rows
     std::int32_t chat_custom_row_ = -1;
+    std::int32_t hud_general_row_ = 0;
+    std::int32_t hud_list_row_ = 0;
+    std::int32_t hud_clock_row_ = 0;
 
     template <class Row>
     void Bind(const Row& row);

@@ -1,32 +1,41 @@
-// Every control of the options view: its name there, its kind, the member that it is bound to, and who answers its
-// events.
+// Every control of the options view: its name there, its kind, the member that it is bound to, and what its events do.
 //
-// Events reach their procedure only while a character is in (Vars::Loaded), so the procedures need not ask.
+// Events act only while a character is in (Vars::Loaded), so what they call need not ask.
 #pragma once
 
 #include <cstdint>
 #include <string_view>
+#include <variant>
 
 #include "config/ControlHandler.h"
+#include "config/Effects.h"
+#include "config/HudRows.h"
 
 namespace ombrel {
 
+// The settings are saved; the option is read from its control where it matters.
+inline constexpr Option kStored{};
+
 using ControlEvent = void (ControlHandler::*)();
 using ListEvent = void (ControlHandler::*)(std::int32_t column, std::int32_t row);
+
+// What an event does: nothing, what becomes of an option, or a procedure of its own.
+template <class Procedure>
+using Answer = std::variant<std::monostate, Option, Procedure>;
 
 template <class Kind>
 struct ControlRow {
     std::string_view name;
     Ref<Kind> ControlHandler::*member;
-    ControlEvent change = nullptr;  // changed or pressed; an edit's at each key
-    ControlEvent end = nullptr;     // edits: the player has finished
+    Answer<ControlEvent> change = {};  // changed or pressed; an edit's at each key
+    Answer<ControlEvent> end = {};     // edits: the player has finished
 };
 
 template <>
 struct ControlRow<host::List> {
     std::string_view name;
     Ref<host::List> ControlHandler::*member;
-    ListEvent change = nullptr;  // a click on a cell
+    Answer<ListEvent> change = {};  // a click on a cell
 };
 
 inline constexpr ControlRow<host::StaticText> kStaticTexts[] = {
@@ -51,15 +60,15 @@ inline constexpr ControlRow<host::StaticText> kStaticTexts[] = {
 };
 
 inline constexpr ControlRow<host::PushButton> kPushButtons[] = {
-    {"Reload_Settings", &ControlHandler::ReloadSettings},
-    {"Reload_Default", &ControlHandler::ReloadDefault},
-    {"Set_Default", &ControlHandler::SetDefault},
-    {"HUD_Clock_All", &ControlHandler::HudClockAll},
-    {"HUD_Timer_Down", &ControlHandler::HudClockDown},
-    {"HUD_Timer_Up", &ControlHandler::HudClockUp},
-    {"HUD_Main_All", &ControlHandler::HudMainAll},
-    {"HUD_Items_Add", &ControlHandler::HudItemsAdd},
-    {"HUD_Items_Sel", &ControlHandler::HudItemsSel},
+    {"Reload_Settings", &ControlHandler::ReloadSettings, &ControlHandler::ReloadSettings_Accepted},
+    {"Reload_Default", &ControlHandler::ReloadDefault, &ControlHandler::ReloadDefault_Accepted},
+    {"Set_Default", &ControlHandler::SetDefault, &ControlHandler::SetDefault_Accepted},
+    {"HUD_Clock_All", &ControlHandler::HudClockAll, &ControlHandler::HudClockAll_Accepted},
+    {"HUD_Timer_Down", &ControlHandler::HudClockDown, Option{"HudClockDown_Accepted", &effect::StartDownTimer}},
+    {"HUD_Timer_Up", &ControlHandler::HudClockUp, Option{"HudClockUp_Accepted", &effect::StartUpTimer}},
+    {"HUD_Main_All", &ControlHandler::HudMainAll, &ControlHandler::HudMainAll_Accepted},
+    {"HUD_Items_Add", &ControlHandler::HudItemsAdd, &ControlHandler::HudItemsAdd_Accepted},
+    {"HUD_Items_Sel", &ControlHandler::HudItemsSel, &ControlHandler::HudItemsSel_Accepted},
     {"Reset_Time", &ControlHandler::ResetTime, &ControlHandler::ResetTime_Accepted},
     {"Filter_Add", &ControlHandler::FilterAdd, &ControlHandler::FilterAdd_Accepted},
     {"Alias_Add", &ControlHandler::AliasAdd, &ControlHandler::AliasAdd_Accepted},
@@ -70,62 +79,65 @@ inline constexpr ControlRow<host::PushButton> kPushButtons[] = {
     {"Chat_Custom_Add", &ControlHandler::ChatCustomAdd, &ControlHandler::ChatCustomAdd_Accepted},
     {"Chat_Log_Dir", &ControlHandler::ChatLogDir, &ControlHandler::ChatLogDir_Accepted},
     {"Chat_Log_Clear", &ControlHandler::ChatLogClear, &ControlHandler::ChatLogClear_Accepted},
-    {"Vitals_btnAddException", &ControlHandler::VitalsAddExceptionBtn},
-    {"Vitals_btnAddSelected", &ControlHandler::VitalsAddExceptionSel},
+    {"Vitals_btnAddException", &ControlHandler::VitalsAddExceptionBtn, &ControlHandler::VitalsAddExceptionBtn_Accepted},
+    {"Vitals_btnAddSelected", &ControlHandler::VitalsAddExceptionSel, &ControlHandler::VitalsAddExceptionSel_Accepted},
 };
 
 inline constexpr ControlRow<host::Checkbox> kCheckboxes[] = {
-    {"Output_Main", &ControlHandler::OutputMain, &ControlHandler::OutputWindow_Change},
-    {"Output_1", &ControlHandler::Output1, &ControlHandler::OutputWindow_Change},
-    {"Output_2", &ControlHandler::Output2, &ControlHandler::OutputWindow_Change},
-    {"Output_3", &ControlHandler::Output3, &ControlHandler::OutputWindow_Change},
-    {"Output_4", &ControlHandler::Output4, &ControlHandler::OutputWindow_Change},
-    {"Global_Settings", &ControlHandler::GlobalSettings},
-    {"Event_Start", &ControlHandler::EventStart},
-    {"Level_SS", &ControlHandler::LevelSS, &ControlHandler::SaveOption},
-    {"Alleg_Change", &ControlHandler::AllegChange, &ControlHandler::SaveOption},
-    {"Logout_Timer", &ControlHandler::LogoutTimer},
-    {"Status_Text", &ControlHandler::StatusText, &ControlHandler::SaveOption},
-    {"Show_Errors", &ControlHandler::ShowErrors, &ControlHandler::SaveOption},
-    {"Toggle_Vitals", &ControlHandler::ToggleVitals},
-    {"Util_checkVitalHealthOn", &ControlHandler::AlarmHealthOn},
-    {"Util_checkVitalStaminaOn", &ControlHandler::AlarmStaminaOn},
-    {"Util_checkVitalManaOn", &ControlHandler::AlarmManaOn},
-    {"Use_Gems", &ControlHandler::UseGems},
-    {"Fill_Mana", &ControlHandler::FillMana},
-    {"Split_Peas", &ControlHandler::SplitPeas},
-    {"Use_Beers", &ControlHandler::UseBeers},
-    {"Beer_Str", &ControlHandler::BeerStr},
-    {"Beer_End", &ControlHandler::BeerEnd},
-    {"Beer_Coord", &ControlHandler::BeerCoord},
-    {"Beer_Quick", &ControlHandler::BeerQuick},
-    {"Beer_Focus", &ControlHandler::BeerFocus},
-    {"Beer_Self", &ControlHandler::BeerSelf},
-    {"Beer_Use_Check", &ControlHandler::BeerUseCheck},
+    {"Output_Main", &ControlHandler::OutputMain, Option{"OutputMain_Change", &effect::PassOutput, 0}},
+    {"Output_1", &ControlHandler::Output1, Option{"Output1_Change", &effect::PassOutput, 1}},
+    {"Output_2", &ControlHandler::Output2, Option{"Output2_Change", &effect::PassOutput, 2}},
+    {"Output_3", &ControlHandler::Output3, Option{"Output3_Change", &effect::PassOutput, 3}},
+    {"Output_4", &ControlHandler::Output4, Option{"Output4_Change", &effect::PassOutput, 4}},
+    {"Global_Settings", &ControlHandler::GlobalSettings, &ControlHandler::GlobalSettings_Change},
+    {"Event_Start", &ControlHandler::EventStart, Option{"EventStart_Change", &effect::PassEventStart}},
+    {"Level_SS", &ControlHandler::LevelSS, kStored},
+    {"Alleg_Change", &ControlHandler::AllegChange, kStored},
+    {"Logout_Timer", &ControlHandler::LogoutTimer, Option{"LogoutTimer_Change", &effect::SetIdleTime}},
+    {"Status_Text", &ControlHandler::StatusText, kStored},
+    {"Show_Errors", &ControlHandler::ShowErrors, kStored},
+    {"Toggle_Vitals", &ControlHandler::ToggleVitals, kStored},
+    {"Util_checkVitalHealthOn", &ControlHandler::AlarmHealthOn, kStored},
+    {"Util_checkVitalStaminaOn", &ControlHandler::AlarmStaminaOn, kStored},
+    {"Util_checkVitalManaOn", &ControlHandler::AlarmManaOn, kStored},
+    {"Use_Gems", &ControlHandler::UseGems, kStored},
+    {"Fill_Mana", &ControlHandler::FillMana, kStored},
+    {"Split_Peas", &ControlHandler::SplitPeas, kStored},
+    {"Use_Beers", &ControlHandler::UseBeers, kStored},
+    {"Beer_Str", &ControlHandler::BeerStr, kStored},
+    {"Beer_End", &ControlHandler::BeerEnd, kStored},
+    {"Beer_Coord", &ControlHandler::BeerCoord, kStored},
+    {"Beer_Quick", &ControlHandler::BeerQuick, kStored},
+    {"Beer_Focus", &ControlHandler::BeerFocus, kStored},
+    {"Beer_Self", &ControlHandler::BeerSelf, kStored},
+    {"Beer_Use_Check", &ControlHandler::BeerUseCheck, kStored},
     {"HUD_On", &ControlHandler::HudOn, &ControlHandler::HudOn_Change},
-    {"HUD_Clock_Disp", &ControlHandler::HudClockDisp},
-    {"HUD_Date_Disp", &ControlHandler::HudClockDateDisp},
-    {"HUD_Clock_24", &ControlHandler::HudClockHour},
-    {"HUD_Clock_Label", &ControlHandler::HudClockLabel},
-    {"HUD_Clock_Short", &ControlHandler::HudClockShort},
-    {"Spells_Item", &ControlHandler::SpellsItem},
-    {"Spells_Beers", &ControlHandler::SpellsBeers},
-    {"HUD_Main_Lbl", &ControlHandler::HudMainLbl},
-    {"HUD_Items_Horz", &ControlHandler::HudItemsHorz},
-    {"XP_Auto", &ControlHandler::XPAuto, &ControlHandler::SaveOption},
-    {"XP_Filter", &ControlHandler::XPFilter, &ControlHandler::SaveOption},
+    {"HUD_Clock_Disp", &ControlHandler::HudClockDisp, Option{"HudClockDisp_Change", &effect::CreateHud, hud::kClock}},
+    {"HUD_Date_Disp", &ControlHandler::HudClockDateDisp,
+     Option{"HudClockDateDisp_Change", &effect::CreateHud, hud::kClock}},
+    {"HUD_Clock_24", &ControlHandler::HudClockHour, Option{"HudClockHour_Change", &effect::CreateHud, hud::kClock}},
+    {"HUD_Clock_Label", &ControlHandler::HudClockLabel,
+     Option{"HudClockLabel_Change", &effect::CreateHud, hud::kClock}},
+    {"HUD_Clock_Short", &ControlHandler::HudClockShort,
+     Option{"HudClockShort_Change", &effect::CreateHud, hud::kClock}},
+    {"Spells_Item", &ControlHandler::SpellsItem, Option{"SpellsItem_Change", &effect::RebuildSpells}},
+    {"Spells_Beers", &ControlHandler::SpellsBeers, kStored},
+    {"HUD_Main_Lbl", &ControlHandler::HudMainLbl, Option{"HudMainLbl_Change", &effect::UpdateMain}},
+    {"HUD_Items_Horz", &ControlHandler::HudItemsHorz, Option{"HudItemsHorz_Change", &effect::CreateHud, hud::kItems}},
+    {"XP_Auto", &ControlHandler::XPAuto, kStored},
+    {"XP_Filter", &ControlHandler::XPFilter, kStored},
     {"Chat_Filter_Matching", &ControlHandler::ChatFilterMatching},
     {"Chat_Filter_Action", &ControlHandler::ChatFilterAction},
-    {"Corpses_Track", &ControlHandler::CorpsesTrack},
-    {"Corpses_Absolute", &ControlHandler::CorpsesAbsolute},
-    {"Corpses_Auto", &ControlHandler::CorpsesAuto},
+    {"Corpses_Track", &ControlHandler::CorpsesTrack, kStored},
+    {"Corpses_Absolute", &ControlHandler::CorpsesAbsolute, Option{"CorpsesAbsolute_Change", &effect::UpdateMain}},
+    {"Corpses_Auto", &ControlHandler::CorpsesAuto, kStored},
     {"Chat_Log_AFK", &ControlHandler::ChatLogAFK, &ControlHandler::ChatLogAFK_Change},
-    {"Chat_Log_Enable", &ControlHandler::ChatLogEnable, &ControlHandler::SaveOption},
-    {"Chat_Log_Timestamp", &ControlHandler::ChatLogTimestamp, &ControlHandler::SaveOption},
+    {"Chat_Log_Enable", &ControlHandler::ChatLogEnable, kStored},
+    {"Chat_Log_Timestamp", &ControlHandler::ChatLogTimestamp, kStored},
     {"Chat_Log_XML", &ControlHandler::ChatLogXML, &ControlHandler::ChatLogXML_Change},
     {"Chat_Log_Auto", &ControlHandler::ChatLogAuto, &ControlHandler::ChatLogAuto_Change},
     {"Chat_Log_By_Date", &ControlHandler::ChatLogByDate, &ControlHandler::ChatLogByDate_Change},
-    {"Vitals_OneTouch_Enabled", &ControlHandler::VitalsEnabled},
+    {"Vitals_OneTouch_Enabled", &ControlHandler::VitalsEnabled, kStored},
 };
 
 inline constexpr ControlRow<host::Notebook> kNotebooks[] = {
@@ -133,20 +145,19 @@ inline constexpr ControlRow<host::Notebook> kNotebooks[] = {
 };
 
 inline constexpr ControlRow<host::Edit> kEdits[] = {
-    {"Start_Level", &ControlHandler::StartLevel, nullptr, &ControlHandler::SaveOption},
-    {"Util_txtVitalHealthPer", &ControlHandler::AlarmHealthPer},
-    {"Util_txtVitalStaminaPer", &ControlHandler::AlarmStaminaPer},
-    {"Util_txtVitalManaPer", &ControlHandler::AlarmManaPer},
-    {"Fill_Threshold", &ControlHandler::FillThreshold},
-    {"Pea_Threshold", &ControlHandler::PeaThreshold},
-    {"Beer_Timer", &ControlHandler::BeerTimer},
-    {"Beer_Use_Timer", &ControlHandler::BeerUseTimer},
+    {"Start_Level", &ControlHandler::StartLevel, {}, kStored},
+    {"Util_txtVitalHealthPer", &ControlHandler::AlarmHealthPer, kStored, kStored},
+    {"Util_txtVitalStaminaPer", &ControlHandler::AlarmStaminaPer, kStored, kStored},
+    {"Util_txtVitalManaPer", &ControlHandler::AlarmManaPer, kStored, kStored},
+    {"Fill_Threshold", &ControlHandler::FillThreshold, {}, kStored},
+    {"Pea_Threshold", &ControlHandler::PeaThreshold, {}, kStored},
+    {"Beer_Timer", &ControlHandler::BeerTimer, {}, kStored},
+    {"Beer_Use_Timer", &ControlHandler::BeerUseTimer, {}, kStored},
     {"HUD_Clock_Timer", &ControlHandler::HudClockTimer},
-    {"Spells_Offset", &ControlHandler::SpellsOffset},
+    {"Spells_Offset", &ControlHandler::SpellsOffset, {}, kStored},
     {"HUD_Items_Text", &ControlHandler::HudItemsText},
     {"HUD_Items_Count", &ControlHandler::HudItemsCount},
-    {"XP_Filter_Threshold", &ControlHandler::XPFilterThreshold, &ControlHandler::SaveOption,
-     &ControlHandler::SaveOption},
+    {"XP_Filter_Threshold", &ControlHandler::XPFilterThreshold, kStored, kStored},
     {"Filter_Box", &ControlHandler::FilterBox},
     {"Alias_Abbr", &ControlHandler::AliasAbbr},
     {"Alias_Full", &ControlHandler::AliasFull},
@@ -155,32 +166,40 @@ inline constexpr ControlRow<host::Edit> kEdits[] = {
     {"Chat_Custom_Action", &ControlHandler::ChatCustomAction},
     {"Chat_Log_Search", &ControlHandler::ChatLogSearch, &ControlHandler::ChatLogSearch_Change,
      &ControlHandler::ChatLogSearch_Change},
-    {"Chat_Log_AFK_Message", &ControlHandler::ChatLogAFKMessage, nullptr, &ControlHandler::SaveOption},
-    {"Chat_Log_Max", &ControlHandler::ChatLogMax, nullptr, &ControlHandler::ChatLogMax_End},
-    {"Vitals_txtBlock", &ControlHandler::VitalsBlock},
-    {"Vitals_txtSuccess", &ControlHandler::VitalsSuccess},
-    {"Vitals_txtCheap", &ControlHandler::VitalsCheap},
-    {"Vitals_txtFallback", &ControlHandler::VitalsFallback},
+    {"Chat_Log_AFK_Message", &ControlHandler::ChatLogAFKMessage, {}, kStored},
+    {"Chat_Log_Max", &ControlHandler::ChatLogMax, {}, &ControlHandler::ChatLogMax_End},
+    {"Vitals_txtBlock", &ControlHandler::VitalsBlock, Option{"VitalsBlock_Change", &effect::ReadPercent, 0},
+     Option{"VitalsBlock_Change", &effect::ReadPercent, 0}},
+    {"Vitals_txtSuccess", &ControlHandler::VitalsSuccess, Option{"VitalsSuccess_Change", &effect::ReadPercent, 1},
+     Option{"VitalsSuccess_Change", &effect::ReadPercent, 1}},
+    {"Vitals_txtCheap", &ControlHandler::VitalsCheap, Option{"VitalsCheap_Change", &effect::ReadPercent, 2},
+     Option{"VitalsCheap_Change", &effect::ReadPercent, 2}},
+    {"Vitals_txtFallback", &ControlHandler::VitalsFallback, Option{"VitalsFallback_Change", &effect::ReadPercent, 3},
+     Option{"VitalsFallback_Change", &effect::ReadPercent, 3}},
     {"Vitals_txtAddException", &ControlHandler::VitalsAddException},
 };
 
 inline constexpr ControlRow<host::Choice> kChoices[] = {
-    {"Util_cboVitalHealthSound", &ControlHandler::AlarmHealthSound},
-    {"Util_cboVitalStaminaSound", &ControlHandler::AlarmStaminaSound},
-    {"Util_cboVitalManaSound", &ControlHandler::AlarmManaSound},
-    {"HUD_General_BG_Color", &ControlHandler::HudGeneralBGColor},
-    {"HUD_General_BG_Alpha", &ControlHandler::HudGeneralBGAlpha},
-    {"HUD_General_Font", &ControlHandler::HudGeneralFont},
-    {"HUD_General_Size", &ControlHandler::HudGeneralSize},
-    {"HUD_Clock_Color", &ControlHandler::HudClockColor},
-    {"HUD_Main_Color", &ControlHandler::HudMainColor},
-    {"HUD_Timeout", &ControlHandler::HudTimeout},
-    {"HUD_Items_Color", &ControlHandler::HudItemsColor},
-    {"HUD_Items_Icon_Size", &ControlHandler::HudItemsIconSize},
-    {"HUD_Target_Color", &ControlHandler::HudTargetColor},
-    {"HUD_Target_Level", &ControlHandler::HudTargetLevel},
-    {"HUD_Status_Color", &ControlHandler::HudStatusColor},
-    {"HUD_Status_Lines", &ControlHandler::HudStatusLines},
+    {"Util_cboVitalHealthSound", &ControlHandler::AlarmHealthSound,
+     Option{"AlarmHealthSound_Change", &effect::LoadAlarm, 0}},
+    {"Util_cboVitalStaminaSound", &ControlHandler::AlarmStaminaSound,
+     Option{"AlarmStaminaSound_Change", &effect::LoadAlarm, 1}},
+    {"Util_cboVitalManaSound", &ControlHandler::AlarmManaSound, Option{"AlarmManaSound_Change", &effect::LoadAlarm, 2}},
+    {"HUD_General_BG_Color", &ControlHandler::HudGeneralBGColor, &ControlHandler::HudGeneralBGColor_Change},
+    {"HUD_General_BG_Alpha", &ControlHandler::HudGeneralBGAlpha, &ControlHandler::HudGeneralBGAlpha_Change},
+    {"HUD_General_Font", &ControlHandler::HudGeneralFont, &ControlHandler::HudGeneralFont_Change},
+    {"HUD_General_Size", &ControlHandler::HudGeneralSize, &ControlHandler::HudGeneralSize_Change},
+    {"HUD_Clock_Color", &ControlHandler::HudClockColor, &ControlHandler::HudClockColor_Change},
+    {"HUD_Main_Color", &ControlHandler::HudMainColor, &ControlHandler::HudMainColor_Change},
+    {"HUD_Timeout", &ControlHandler::HudTimeout, Option{"HudTimeout_Change", &effect::StartRefresh}},
+    {"HUD_Items_Color", &ControlHandler::HudItemsColor,
+     Option{"HudItemsColor_Change", &effect::CreateHud, hud::kItems}},
+    {"HUD_Items_Icon_Size", &ControlHandler::HudItemsIconSize, Option{"HudItemsIconSize_Change", &effect::SetIconSize}},
+    {"HUD_Target_Color", &ControlHandler::HudTargetColor, Option{"HudTargetColor_Change", &effect::ColorTarget}},
+    {"HUD_Target_Level", &ControlHandler::HudTargetLevel, kStored},
+    {"HUD_Status_Color", &ControlHandler::HudStatusColor,
+     Option{"HudStatusColor_Change", &effect::CreateHud, hud::kStatus}},
+    {"HUD_Status_Lines", &ControlHandler::HudStatusLines, kStored},
     {"Chat_Color_Color", &ControlHandler::ChatColorColor, &ControlHandler::ChatColorColor_Change},
     {"Chat_Color_Sound", &ControlHandler::ChatColorSound, &ControlHandler::ChatColorSound_Change},
     {"Chat_Color_Window", &ControlHandler::ChatColorWindow, &ControlHandler::ChatColorWindow_Change},
@@ -191,21 +210,21 @@ inline constexpr ControlRow<host::Choice> kChoices[] = {
 };
 
 inline constexpr ControlRow<host::List> kLists[] = {
-    {"HUD_General", &ControlHandler::HudGeneral},
-    {"HUD_Clock", &ControlHandler::HudClockList},
-    {"Buff_List", &ControlHandler::BuffList},
+    {"HUD_General", &ControlHandler::HudGeneral, &ControlHandler::HudGeneral_Change},
+    {"HUD_Clock", &ControlHandler::HudClockList, &ControlHandler::HudClockList_Change},
+    {"Buff_List", &ControlHandler::BuffList, &ControlHandler::BuffList_Change},
     {"Debuff_List", &ControlHandler::DebuffList},
-    {"HUD_LIST", &ControlHandler::HudList},
-    {"HUD_Items", &ControlHandler::HudItems},
-    {"Chat_Options", &ControlHandler::ChatOptions, &ControlHandler::SaveList},
+    {"HUD_LIST", &ControlHandler::HudList, &ControlHandler::HudList_Change},
+    {"HUD_Items", &ControlHandler::HudItems, &ControlHandler::HudItems_Change},
+    {"Chat_Options", &ControlHandler::ChatOptions, kStored},
     {"Chat_Filter", &ControlHandler::ChatFilter, &ControlHandler::ChatFilter_Change},
     {"Chat_Alias", &ControlHandler::ChatAlias, &ControlHandler::ChatAlias_Change},
     {"Chat_Color", &ControlHandler::ChatColor, &ControlHandler::ChatColor_Change},
     {"Chat_Custom", &ControlHandler::ChatCustom, &ControlHandler::ChatCustom_Change},
-    {"Corpses_List", &ControlHandler::CorpsesList},
+    {"Corpses_List", &ControlHandler::CorpsesList, &ControlHandler::CorpsesList_Change},
     {"Chat_Log_View", &ControlHandler::ChatLogView, &ControlHandler::ChatLogView_Change},
-    {"Chat_Log_Options", &ControlHandler::ChatLogOptions, &ControlHandler::SaveList},
-    {"Vitals_listExceptions", &ControlHandler::VitalsExceptions},
+    {"Chat_Log_Options", &ControlHandler::ChatLogOptions, kStored},
+    {"Vitals_listExceptions", &ControlHandler::VitalsExceptions, &ControlHandler::VitalsExceptions_Change},
 };
 
 inline constexpr ControlRow<host::Progress> kProgresses[] = {
@@ -213,10 +232,14 @@ inline constexpr ControlRow<host::Progress> kProgresses[] = {
 };
 
 inline constexpr ControlRow<host::Slider> kSliders[] = {
-    {"Vitals_sldrBlock", &ControlHandler::VitalsBlockSlider},
-    {"Vitals_sldrSuccess", &ControlHandler::VitalsSuccessSlider},
-    {"Vitals_sldrCheap", &ControlHandler::VitalsCheapSlider},
-    {"Vitals_sldrFallback", &ControlHandler::VitalsFallbackSlider},
+    {"Vitals_sldrBlock", &ControlHandler::VitalsBlockSlider,
+     Option{"VitalsBlockSlider_Change", &effect::ReadSlider, 0}},
+    {"Vitals_sldrSuccess", &ControlHandler::VitalsSuccessSlider,
+     Option{"VitalsSuccessSlider_Change", &effect::ReadSlider, 1}},
+    {"Vitals_sldrCheap", &ControlHandler::VitalsCheapSlider,
+     Option{"VitalsCheapSlider_Change", &effect::ReadSlider, 2}},
+    {"Vitals_sldrFallback", &ControlHandler::VitalsFallbackSlider,
+     Option{"VitalsFallbackSlider_Change", &effect::ReadSlider, 3}},
 };
 
 }  // namespace ombrel

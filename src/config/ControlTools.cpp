@@ -1,5 +1,7 @@
 #include "config/ControlTools.h"
 
+#include <utility>
+
 #include "core/Vars.h"
 #include "host/Plugin.h"
 
@@ -10,11 +12,18 @@ void SetMarker(host::List& list, std::int32_t column, std::int32_t row, std::int
     list.SetData(column, row, icon, 1);
 }
 
-void MoveMark(host::List& list, std::int32_t& marked, std::int32_t row) {
-    constexpr std::int32_t kNameColumn = 1;
+void SwapCells(host::List& list, std::int32_t column, std::int32_t a, std::int32_t b, std::int32_t sub) {
+    host::Cell held = list.Data(column, a, sub);
+    list.SetData(column, a, list.Data(column, b, sub), sub);
+    list.SetData(column, b, std::move(held), sub);
+}
+
+bool HasRow(const host::List& list, std::int32_t row) { return row >= 0 && row < list.Count(); }
+
+void MoveMark(host::List& list, std::int32_t& marked, std::int32_t row, std::int32_t column) {
     constexpr std::int32_t kPlain = 0x00FFFFFF;
-    if (marked >= 0 && marked < list.Count()) list.SetColor(kNameColumn, marked, kPlain);
-    list.SetColor(kNameColumn, row, kHighlight);
+    if (HasRow(list, marked)) list.SetColor(column, marked, kPlain);
+    list.SetColor(column, row, kHighlight);
     marked = row;
 }
 

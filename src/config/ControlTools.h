@@ -21,11 +21,17 @@ constexpr std::int32_t kDelete = 0x60011F8;
 // Puts a colour marker into a cell.
 void SetMarker(host::List& list, std::int32_t column, std::int32_t row, std::int32_t icon);
 
+// Exchanges a cell of two rows.
+void SwapCells(host::List& list, std::int32_t column, std::int32_t a, std::int32_t b, std::int32_t sub = 0);
+
+// Whether a click hit a row, and not the room beside the rows.
+bool HasRow(const host::List& list, std::int32_t row);
+
 // The mark of the row that the detail choices show.
 constexpr std::int32_t kHighlight = 0xFFFF80;
 
 // Moves the mark to another row, which `marked` names from then on.
-void MoveMark(host::List& list, std::int32_t& marked, std::int32_t row);
+void MoveMark(host::List& list, std::int32_t& marked, std::int32_t row, std::int32_t column = 1);
 
 // Selects the first entry of a choice whose text is `text`; without one the selection stays.
 void SelectText(host::Choice& choice, std::string_view text);

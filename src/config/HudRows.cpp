@@ -4,7 +4,9 @@
 #include <string>
 
 #include "config/ControlHandler.h"
+#include "config/ControlTools.h"
 #include "core/Hub.h"
+#include "core/TimerHandler.h"
 #include "core/Vars.h"
 #include "core/cells.h"
 #include "core/convert.h"
@@ -14,6 +16,7 @@
 #include "hud/HUDMainHandler.h"
 #include "hud/HUDStatusHandler.h"
 #include "hud/HUDTargetHandler.h"
+#include "stats/Statistics.h"
 
 namespace ombrel::hud {
 
@@ -51,24 +54,54 @@ void Create(std::int32_t row) {
     }
 }
 
+void CreateAll() {
+    for (const std::int32_t row : {kMain, kClock, kItems, kTarget, kStatus}) Create(row);
+}
+
 void ApplyEnabled(const ControlHandler& controls, std::int32_t row) {
     const bool enabled = CellFlag(*controls.HudGeneral, kOn, row) && controls.HudOn->Checked();
     FrameOf(row).SetEnabled(enabled);
 }
 
-void ApplyLook(const ControlHandler& controls, std::int32_t row) {
-    const host::List& list = *controls.HudGeneral;
-    const auto face = Vars::FontNames.find(CellText(list, kFont, row));
-    const std::string color(GetColorFromHUDIcon(CellIcon(list, kBackground, row)));
-    const std::int32_t background = ConvertColor(color, AlphaIndex(CellText(list, kAlpha, row)));
-    const std::int32_t size = ToLong(CellText(list, kSize, row));
-    const bool outline = CellFlag(list, kOutline, row);
+void ApplyFont(const ControlHandler& controls, std::int32_t row) {
+    const auto face = Vars::FontNames.find(CellText(*controls.HudGeneral, kFont, row));
+    FrameOf(row).SetFontFace(face == Vars::FontNames.end() ? "Arial" : face->second);
+}
 
-    HudFrame& frame = FrameOf(row);
-    frame.SetFontFace(face == Vars::FontNames.end() ? "Arial" : face->second);
-    frame.SetFontSize(size);
-    frame.BackgroundColor = background;
-    frame.Outline = outline;
+void ApplySize(const ControlHandler& controls, std::int32_t row) {
+    FrameOf(row).SetFontSize(ToLong(CellText(*controls.HudGeneral, kSize, row)));
+}
+
+void ApplyBackground(const ControlHandler& controls, std::int32_t row) {
+    const host::List& list = *controls.HudGeneral;
+    const std::string color(GetColorFromHUDIcon(CellIcon(list, kBackground, row)));
+    FrameOf(row).BackgroundColor = ConvertColor(color, AlphaIndex(CellText(list, kAlpha, row)));
+}
+
+void ApplyOutline(const ControlHandler& controls, std::int32_t row) {
+    FrameOf(row).Outline = CellFlag(*controls.HudGeneral, kOutline, row);
+}
+
+void ApplyLook(const ControlHandler& controls, std::int32_t row) {
+    for (const auto apply : {&ApplyFont, &ApplySize, &ApplyBackground, &ApplyOutline}) apply(controls, row);
+}
+
+void ApplyIconSize(const ControlHandler& controls) {
+    const double edge = Val(SelectedText(*controls.HudItemsIconSize));
+    if (edge > 0) FrameOf(kItems).IconSize = static_cast<std::int16_t>(edge);
+}
+
+void ApplyTargetColor(const ControlHandler& controls) {
+    Vars::HUDTargetHandler->TargetHud->FontColor = SelectedText(*controls.HudTargetColor, "White");
+}
+
+void ApplyXPChange(ControlHandler& controls) {
+    Vars::Statistics->XPChangeOn = CellFlag(*controls.HudList, kOn, controls.FindName("XP Change", "HudList"));
+}
+
+void StartRefresh(const ControlHandler& controls) {
+    const host::Choice& period = *controls.HudTimeout;
+    if (period.Selected() >= 0) Vars::TimerHandler->StartMainHUDTime(ToLong(period.Data(period.Selected())));
 }
 
 std::int32_t AlphaIndex(std::string_view alpha) {

@@ -32,12 +32,23 @@ HudFrame& FrameOf(std::int32_t row);
 
 // Draws a HUD from scratch.
 void Create(std::int32_t row);
+void CreateAll();
 
 // A HUD shows when its row is ticked, and HUDs are on as a whole.
 void ApplyEnabled(const ControlHandler& controls, std::int32_t row);
 
-// Hands the canvas font, size, background and outline of its row.
+// Hand the canvas what its row says of it; ApplyLook all four.
+void ApplyFont(const ControlHandler& controls, std::int32_t row);
+void ApplySize(const ControlHandler& controls, std::int32_t row);
+void ApplyBackground(const ControlHandler& controls, std::int32_t row);
+void ApplyOutline(const ControlHandler& controls, std::int32_t row);
 void ApplyLook(const ControlHandler& controls, std::int32_t row);
+
+// Options of single HUDs that have a copy elsewhere.
+void ApplyIconSize(const ControlHandler& controls);
+void ApplyTargetColor(const ControlHandler& controls);
+void ApplyXPChange(ControlHandler& controls);       // whether the main HUD shows the last change
+void StartRefresh(const ControlHandler& controls);  // the main HUD, at the chosen period
 
 // The step that ConvertColor takes for the entry of the alpha choice: "100%" lets everything through and is 0, "0%"
 // is 10.

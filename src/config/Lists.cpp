@@ -9,6 +9,7 @@
 #include "config/HudRows.h"
 #include "core/Hub.h"
 #include "core/Vars.h"
+#include "core/cells.h"
 #include "core/failure.h"
 
 namespace ombrel {
@@ -148,6 +149,7 @@ void ControlHandler::Init_Lists(std::span<const std::int32_t> versionParts) try 
 
     chat_color_row_ = 0;
     chat_custom_row_ = -1;
+    hud_general_row_ = hud_list_row_ = hud_clock_row_ = 0;
     for (const auto list : Lists{&ControlHandler::ChatColor, &ControlHandler::HudList, &ControlHandler::HudGeneral,
                                  &ControlHandler::HudClockList}) {
         (this->*list)->SetColor(1, 0, kHighlight);
@@ -175,6 +177,10 @@ std::int32_t ControlHandler::FindName(std::string_view name, std::string_view li
 } catch (...) {
     ReportFailure("FindName", "ControlHandler");
     return -1;
+}
+
+bool ControlHandler::ChatOption(std::string_view name) {
+    return CellFlag(*ChatOptions, 0, FindName(name, "ChatOptions"));
 }
 
 }  // namespace ombrel

@@ -1,6 +1,7 @@
 // What the player does on the log pages.
 #include "chat/LogHandler.h"
 #include "config/ControlHandler.h"
+#include "config/ControlTools.h"
 #include "core/FilterHandler.h"
 #include "core/Vars.h"
 #include "core/cells.h"
@@ -58,7 +59,7 @@ void ControlHandler::ChatLogSearch_Change() try {
 }
 
 void ControlHandler::ChatLogView_Change(std::int32_t, std::int32_t row) try {
-    if (row < 0 || row >= ChatLogView->Count()) return;  // a click beside the lines
+    if (!HasRow(*ChatLogView, row)) return;  // a click beside the lines
     Vars::LogHandler->PrintDetails(ToLong(CellText(*ChatLogView, 1, row)));
     Settings_Save(0);
 } catch (...) {

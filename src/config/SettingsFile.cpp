@@ -72,14 +72,9 @@ std::vector<std::int32_t> VersionParts(const pugi::xml_node& root) {
 }
 
 void SwapRows(host::List& list, std::int32_t a, std::int32_t b) {
-    const auto swap = [&](std::int32_t column, std::int32_t sub) {
-        host::Cell held = list.Data(column, a, sub);
-        list.SetData(column, a, list.Data(column, b, sub), sub);
-        list.SetData(column, b, std::move(held), sub);
-    };
-    swap(1, 0);
-    swap(0, 0);
-    swap(2, 1);
+    SwapCells(list, 1, a, b);
+    SwapCells(list, 0, a, b);
+    SwapCells(list, 2, a, b, 1);
 }
 
 // The next place of the list, after the row of that name has been brought there.

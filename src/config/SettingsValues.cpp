@@ -5,19 +5,15 @@
 #include <iterator>
 #include <string>
 
-#include "automation/EventQueue.h"
 #include "chat/ChatTextHandler.h"
 #include "chat/LogHandler.h"
+#include "config/Effects.h"
 #include "config/ViewHandler.h"
 #include "core/Hub.h"
-#include "core/TimerHandler.h"
 #include "core/Vars.h"
 #include "core/cells.h"
 #include "core/convert.h"
-#include "core/text.h"
 #include "hud/DX8Sound.h"
-#include "hud/HUDTargetHandler.h"
-#include "stats/Statistics.h"
 
 namespace ombrel::settings {
 
@@ -38,10 +34,9 @@ struct Load {
 
     // A percentage that is no number goes back to what a file without one gives.
     void operator()(const InPercent& in) const {
-        const auto digits = [](std::string_view text) { return Replace(text, "%", ""); };
-        const std::string_view text = IsNumeric(digits(value)) ? value : attribute.missing;
+        const std::string_view text = IsNumeric(WithoutPercent(value)) ? value : attribute.missing;
         (controls().*in.edit)->SetText(text);
-        (controls().*in.slider)->SetPosition(ToLong(digits(text)));
+        (controls().*in.slider)->SetPosition(ToLong(WithoutPercent(text)));
     }
 
     void operator()(const InChoice& in) const {
@@ -184,20 +179,14 @@ void MoveView(Loading& loading) {
     wtcw_debug(fmt::format("{}, {}, {}, {}", position.top, position.left, position.right, position.bottom));
 }
 
-void PassEventStart(Loading& loading) { Vars::EventQueue->autorun = loading.controls.EventStart->Checked(); }
+void PassEventStart(Loading& loading) { effect::PassEventStart(loading.controls, 0); }
 
 void PassOutputs(Loading& loading) {
-    const auto& controls = loading.controls;
-    std::int32_t window = 0;
-    for (const auto& box :
-         {controls.OutputMain, controls.Output1, controls.Output2, controls.Output3, controls.Output4})
-        Vars::ChatTextHandler->SetTargetList(window++, chat_type::kOmbrel, box->Checked());
+    constexpr std::int32_t kWindows = 5;
+    for (std::int32_t window = 0; window < kWindows; ++window) effect::PassOutput(loading.controls, window);
 }
 
-void PassXPChange(Loading& loading) {
-    const std::int32_t row = loading.controls.FindName("XP Change", "HudList");
-    Vars::Statistics->XPChangeOn = CellFlag(*loading.controls.HudList, 0, row);
-}
+void PassXPChange(Loading& loading) { hud::ApplyXPChange(loading.controls); }
 
 void PassLog(Loading& loading) {
     const auto& controls = loading.controls;
@@ -215,18 +204,16 @@ void PassHud(Loading& loading) {
 
 void PassMainHud(Loading& loading) {
     PassHud(loading);
-    const host::Choice& timeout = *loading.controls.HudTimeout;
-    if (timeout.Selected() >= 0) Vars::TimerHandler->StartMainHUDTime(ToLong(timeout.Data(timeout.Selected())));
+    hud::StartRefresh(loading.controls);
 }
 
 void PassItemHud(Loading& loading) {
-    const double edge = Val(SelectedText(*loading.controls.HudItemsIconSize));
-    if (edge > 0) hud::FrameOf(hud::kItems).IconSize = static_cast<std::int16_t>(edge);
+    hud::ApplyIconSize(loading.controls);
     PassHud(loading);
 }
 
 void PassTargetHud(Loading& loading) {
-    Vars::HUDTargetHandler->TargetHud->FontColor = SelectedText(*loading.controls.HudTargetColor, "White");
+    hud::ApplyTargetColor(loading.controls);
     PassHud(loading);
 }
 

@@ -5,6 +5,7 @@
 #include "chat/ChatTextHandler.h"
 #include "chat/LogHandler.h"
 #include "config/ControlHandler.h"
+#include "config/HudRows.h"
 #include "core/FilterHandler.h"
 #include "core/Hub.h"
 #include "core/TimerHandler.h"
@@ -35,9 +36,6 @@ constexpr std::int32_t kShortName = 1;
 
 // SettingsState of a load that went through.
 constexpr std::int32_t kSettingsUsable = 2;
-
-// Four weeks: the client never gets there.
-constexpr double kLongIdleTime = 2419200000.0;
 
 // The game's numbers of the augmentations that lengthen spells.
 constexpr std::int32_t kArchmagesEndurance = 238;
@@ -85,9 +83,6 @@ constexpr Alarm kAlarms[] = {
 // Where corpses are remembered: with one decimal.
 double OneDecimal(double coordinate) { return ToDouble(FormatFixed(coordinate, 1)); }
 
-// The text of a percent box, with or without its sign, as a share.
-double Share(const std::string& percent) { return ToDouble(Replace(percent, "%", "")) / 100.0; }
-
 void StartHotkeys() {
     Vars::DHSHandler.Release();
     Vars::DHSHandler = std::make_unique<DHSHandler>();
@@ -102,11 +97,6 @@ void CreateHUDs() {
     Vars::HUDClockHandler->CreateHUD();
     Vars::HUDStatusHandler->CreateHUD();
     Vars::HUDTargetHandler->CreateHUD();
-}
-
-void StartMainHudTimer() {
-    const host::Choice& timeout = *Vars::ControlHandler->HudTimeout;
-    Vars::TimerHandler->StartMainHUDTime(ToLong(timeout.Data(timeout.Selected())));
 }
 
 void StartLog() {
@@ -148,7 +138,7 @@ void FilterHandler::Char_LoginComplete() try {
     Vars::CorpseHandler->UpdateCorpseList();
     if (options.LogoutTimer->Checked()) {
         wtcw_debug("Logout Extended");
-        SetIdleTime(kLongIdleTime);
+        SetIdleTime(host::idle_time::kNever);
     }
     StartHotkeys();
     if (!Vars::HudFailed) CreateHUDs();
@@ -159,7 +149,7 @@ void FilterHandler::Char_LoginComplete() try {
     Vars::SpellHandler->BuildSpellList();
     Vars::SpellHandler->UpdateSpellList();
     Vars::TimerHandler->StartCoreTimer();
-    StartMainHudTimer();
+    hud::StartRefresh(options);
     if (options.ToggleVitals->Checked()) {
         wtcw_debug("Vitals Toggled");
         SendClick(kVitalsButton.x, kVitalsButton.y);
@@ -194,7 +184,7 @@ void FilterHandler::Char_ChangeVital(std::int32_t, std::int32_t) try {
     for (const Alarm& alarm : kAlarms) {
         if (!(options.*alarm.on)->Checked()) continue;  // a sound that plays is left as it is
 
-        const double threshold = Share((options.*alarm.percent)->Text());
+        const double threshold = ToShare((options.*alarm.percent)->Text());
         const std::int32_t current = ((*CharStats).*alarm.current)();
         const std::int32_t maximum = CharStats->Vital(alarm.maximum);
         if (maximum == 0) throw Failure(failure::kDivisionByZero);
@@ -404,9 +394,7 @@ void FilterHandler::UpdateItemHUD(const host::WorldObject& object) try {
 }
 
 void FilterHandler::FriendsOnline() try {
-    const ControlHandler& options = *Vars::ControlHandler;
-    const std::int32_t row = Vars::ControlHandler->FindName("Show Friends Online on Login", "ChatOptions");
-    FriendsCheck = CellFlag(*options.ChatOptions, 0, row);
+    FriendsCheck = Vars::ControlHandler->ChatOption("Show Friends Online on Login");
     if (!FriendsCheck) return;
     wtcw_debug("Checking Friends Online");
     SendCommand("/friends online");

@@ -181,6 +181,10 @@ double Val(std::string_view text) {
     return reader.Read(false) ? reader.Value() : 0.0;
 }
 
+std::string WithoutPercent(std::string_view text) { return Replace(text, "%", ""); }
+
+double ToShare(std::string_view percent) { return ToDouble(WithoutPercent(percent)) / 100.0; }
+
 std::string_view BoolText(bool value) { return value ? "True" : "False"; }
 
 namespace {

@@ -15,6 +15,9 @@ std::int32_t ToLong(double value);
 bool ToBool(std::string_view text);  // "True", "False" in any case, or a number
 double Val(std::string_view text);   // the number that the text begins with, else 0
 
+std::string WithoutPercent(std::string_view text);  // a percentage may have its sign or not
+double ToShare(std::string_view percent);           // "50%" or "50" is 0.5
+
 std::string_view BoolText(bool value);  // "True" or "False"
 std::string NumberText(double value);   // shortest form with up to 15 digits; below 1 without the leading zero
 std::string NumberText(float value);    // up to 7 digits

@@ -13,6 +13,12 @@
 
 namespace ombrel::host {
 
+// Seconds for SetIdleTime.
+namespace idle_time {
+constexpr double kClient = 1200.0;       // as the client starts
+constexpr double kNever = 2419200000.0;  // no evening is that long
+}  // namespace idle_time
+
 class ACHooks {
 public:
     virtual ~ACHooks() = default;

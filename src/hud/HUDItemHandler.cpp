@@ -119,9 +119,7 @@ void HUDItemHandler::AddData() try {
         ItemHUD->Add(NumberText(row), NumberText(count), color, icon, newline);
     }
 
-    if (!CellFlag(*controls.ChatOptions, 0,
-                  Vars::ControlHandler->FindName("Running Low on Item Warning", "ChatOptions")))
-        return;
+    if (!Vars::ControlHandler->ChatOption("Running Low on Item Warning")) return;
     for (const Warning& warning : kWarnings) {
         std::string names;
         for (std::int32_t row = 0; row < rows; ++row)

@@ -5,7 +5,6 @@
 #include "core/FilterHandler.h"
 #include "core/Hub.h"
 #include "core/Vars.h"
-#include "core/cells.h"
 #include "core/convert.h"
 #include "core/failure.h"
 #include "spells/SpellFilterHandler.h"
@@ -70,7 +69,7 @@ void SpellHandler::HandleBeers(std::int32_t selectedTime) try {
         const bool ticked = (controls.*beers[i].option)->Checked();
         if (ticked && beer_remaining_[i] != 0 && beer_remaining_[i] < LowBeer) LowBeer = beer_remaining_[i];
     }
-    const bool warn = CellFlag(*controls.ChatOptions, 0, controls.FindName("Buffs Expiration Warning", "ChatOptions"));
+    const bool warn = controls.ChatOption("Buffs Expiration Warning");
     if (warn && LowBeer == threshold && !controls.UseBeers->Checked()) wtcw("Your beer spells are getting low!");
 
     // Drinking is held back when the tracked buff is about to run out, or none is tracked.

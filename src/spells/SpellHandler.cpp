@@ -10,7 +10,6 @@
 #include "core/FilterHandler.h"
 #include "core/Hub.h"
 #include "core/Vars.h"
-#include "core/cells.h"
 #include "core/convert.h"
 #include "core/failure.h"
 #include "core/time.h"
@@ -217,8 +216,7 @@ std::int32_t SpellHandler::ShowTracked(std::int32_t noted, bool selected) {
 
 // Each warning fires on the one second that lands on its value.
 void SpellHandler::WarnOfExpiry(std::int32_t selectedTime) {
-    auto& controls = *Vars::ControlHandler;
-    if (!CellFlag(*controls.ChatOptions, 0, controls.FindName("Buffs Expiration Warning", "ChatOptions"))) return;
+    if (!Vars::ControlHandler->ChatOption("Buffs Expiration Warning")) return;
     for (const Warning& warning : kWarnings)
         if (selectedTime == warning.seconds) wtcw(warning.text);
 }

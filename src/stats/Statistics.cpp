@@ -11,7 +11,6 @@
 #include "core/Hub.h"
 #include "core/TimerHandler.h"
 #include "core/Vars.h"
-#include "core/cells.h"
 #include "core/convert.h"
 #include "core/failure.h"
 #include "core/text.h"
@@ -29,11 +28,6 @@ double Divide(double dividend, double divisor) {
 }
 
 std::int32_t SecondsSince(Date start) { return ToLong((NowDate() - start) * 86400.0); }
-
-bool ChatOption(std::string_view name) {
-    auto& controls = *Vars::ControlHandler;
-    return CellFlag(*controls.ChatOptions, 0, controls.FindName(name, "ChatOptions"));
-}
 
 }  // namespace
 
@@ -202,16 +196,16 @@ void Statistics::DisplayXP() try {
     auto& controls = *Vars::ControlHandler;
     const std::string change = FormatCount(XPTotalChange, false);
     controls.XPChange->SetText(change);
-    if (ChatOption("Show All XP Changes")) {
+    if (controls.ChatOption("Show All XP Changes")) {
         std::string line = "XP: " + change + ".";
         if (XPTotalChange != XPUnChange) {
             line.pop_back();
             line += fmt::format(" (Unassigned: {}, Skill: {}). ", FormatCount(XPUnChange, false),
                                 FormatCount(XPTotalChange - XPUnChange, false));
         }
-        if (ChatOption("Add XP/Hr")) line += fmt::format(" [ {} XP/Hr ]", controls.XPHour->Text());
-        if (ChatOption("Add XP to Level")) line += fmt::format(" [ {} XP to level ]", controls.XPNext->Text());
-        if (ChatOption("Add Time to Level")) line += fmt::format(" [ {} to level ]", TimeToLevelText);
+        if (controls.ChatOption("Add XP/Hr")) line += fmt::format(" [ {} XP/Hr ]", controls.XPHour->Text());
+        if (controls.ChatOption("Add XP to Level")) line += fmt::format(" [ {} XP to level ]", controls.XPNext->Text());
+        if (controls.ChatOption("Add Time to Level")) line += fmt::format(" [ {} to level ]", TimeToLevelText);
         wtcw(line);
     }
     if (XPChangeOn) {
