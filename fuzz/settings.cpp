@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <optional>
 #include <pugixml.hpp>
+#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -59,10 +60,26 @@ public:
     fs::path settings, global, data;
 };
 
-void ForgetPlay() {
-    Vars::CorpseHandler->Corpses.clear();
-    Vars::SpellHandler->ItemSpells.clear();
-    Vars::LogHandler->Log.clear();
+// The settings without the places of the displays: one that is docked follows its width, and takes its place only once
+// it has been drawn.
+std::string WithoutPlaces(const std::string& settings) {
+    pugi::xml_document document;
+    document.load_buffer(settings.data(), settings.size());
+    for (pugi::xml_node element : document.document_element().children()) {
+        element.remove_attribute("x");
+        element.remove_attribute("y");
+    }
+    std::ostringstream text;
+    document.save(text);
+    return text.str();
+}
+
+std::string LoadedAndSaved(const Files& files) {
+    ControlHandler& controls = *Vars::ControlHandler;
+    controls.Settings_Load(0);
+    Require(Vars::SettingsState == 2, "saved settings don't load");
+    controls.Settings_Save(0);
+    return ReadWhole(files.own());
 }
 
 // What is saved loads to what saves the same bytes.
@@ -71,31 +88,26 @@ void RequireStable(const Files& files) {
     controls.Settings_Save(0);
     const std::string settings = ReadWhole(files.own());
     Require(IsOurs(settings), "saved settings are no settings");
-    controls.Settings_Load(0);
-    Require(Vars::SettingsState == 2, "saved settings don't load");
-    controls.Settings_Save(0);
-    Require(ReadWhole(files.own()) == settings, "settings change by being loaded and saved");
+    const std::string again = LoadedAndSaved(files);
+    Require(WithoutPlaces(again) == WithoutPlaces(settings), "settings change by being loaded and saved");
+    Require(LoadedAndSaved(files) == again, "displays move by being loaded and saved");
 
     controls.Data_Save();
     const std::string data = ReadWhole(files.data);
     Require(IsOurs(data), "saved data are no data");
-    ForgetPlay();
+    Vars::CorpseHandler->Corpses.clear();
+    Vars::SpellHandler->ItemSpells.clear();
+    Vars::LogHandler->Log.clear();
     controls.Data_Load(0);
     Require(ReadWhole(files.data) == data, "data change by being loaded and saved");
 }
 
 void Play(const std::string& settings, const std::string& data) {
-    Game& game = Game::Shared();
-    game.Calm();
-    ForgetPlay();
-    game.common_data.Empty();
-    Install(game.client, game.documents, game.common_data);
+    Game game;
     const Files files(game);
     if (!settings.empty()) WriteWhole(files.settings, settings);
     if (!data.empty()) WriteWhole(files.data, data);
 
-    Vars::SettingsState = 0;
-    game.Forget();
     game.client.LoginComplete();
 
     const bool walk_failed = Reported(game, "'Settings_Load 1'");

@@ -107,12 +107,21 @@ void Install(sim::Client& client, const Folder& documents, const Folder& common_
 
 Game& Game::Shared() {
     static Game game;
+    static const bool logged_in = game.LogIn();
+    Require(logged_in, "the login did not work");
     return game;
+}
+
+bool Game::LogIn() {
+    client.LoadSpells(std::string(kResources) + "/sim/spells.tsv");
+    client.LoginComplete();
+    if (!Vars::Loaded) return false;
+    Calm();
+    return true;
 }
 
 Game::Game() {
     Install(client, documents, common_data);
-    client.LoadSpells(std::string(kResources) + "/sim/spells.tsv");
     client.object(client.sheet.Character).Name = client.sheet.Name;
     client.object(client.sheet.Character).Coordinates = {12.3, -45.6};
     client.chat_listener = [this](const sim::Client::ChatLine& line) {
@@ -121,9 +130,6 @@ Game::Game() {
         if (line.text.starts_with("<Ombrel> Error #")) reports.push_back(line.text);
     };
     client.Start();
-    client.LoginComplete();
-    Require(Vars::Loaded, "the login did not work");
-    Calm();
 }
 
 void Game::Calm() {

@@ -1,5 +1,5 @@
-// A character in the simulated client's world, one for all inputs of a process, so that an input costs what the plug-in
-// makes of it and no login.
+// A character in the simulated client's world. Most targets share one among all inputs of a process, so that an input
+// costs what the plug-in makes of it and no login.
 #pragma once
 
 #include <cstdint>
@@ -38,6 +38,10 @@ class Game {
 public:
     static Game& Shared();
 
+    // A client of an input's own, where what is remembered from before would blur what it shows. The plug-in has
+    // started, and waits for the login.
+    Game();
+
     // Back to a character with the built-in options who has heard nothing yet.
     void Calm();
 
@@ -65,8 +69,7 @@ public:
     sim::Client client;
 
 private:
-    Game();
-
+    bool LogIn();
     void AddRule(const Statement& statement);
 
     std::int64_t waited_ = 0;  // seconds of this input

@@ -81,6 +81,16 @@ bool IsTarget(host::Id id) {
     return Vars::HUDTargetHandler->GetObject(target) && target->GUID() == id;
 }
 
+// What the chat windows are set to stands inside the options; it is taken beside them too.
+template <class Read>
+auto Either(const host::MessageMember& first, const host::MessageMember& second, Read read) {
+    try {
+        return read(first);
+    } catch (const Failure&) {
+        return read(second);
+    }
+}
+
 }  // namespace
 
 NetEchoHandler::NetEchoHandler() {
@@ -137,23 +147,24 @@ void NetEchoHandler::ReadGameEvent(const host::Message& message) {
 // The totals of one gain come in two messages, in either order; the change is handled once, when the pair is complete.
 // Unassigned experience that falls was spent: that updates at once and without a chat line.
 void NetEchoHandler::ReadExperience(const host::Message& message) {
-    auto& statistics = *Vars::Statistics;
-    const std::int32_t key = message.Long("key");
-    if (key == kTotalExperience) {
-        TotalXP = DoubleFromQword(message.Bytes("value"));
-        TotalSeen = true;
-    } else if (key == kUnassignedExperience) {
-        UnassignedXP = DoubleFromQword(message.Bytes("value"));
-        UnassignedSeen = true;
-        if (UnassignedXP < statistics.CharUnXP) {
-            statistics.ChangeXP(false);
-            UnassignedSeen = false;
-        }
-    } else {
-        return;
+    switch (message.Long("key")) {
+        case kTotalExperience:
+            TotalXP = DoubleFromQword(message.Bytes("value"));
+            TotalSeen = true;
+            break;
+        case kUnassignedExperience:
+            UnassignedXP = DoubleFromQword(message.Bytes("value"));
+            UnassignedSeen = true;
+            if (UnassignedXP < Vars::Statistics->CharUnXP) {
+                Vars::Statistics->ChangeXP(false);
+                UnassignedSeen = false;
+            }
+            break;
+        default:
+            return;
     }
     if (TotalSeen && UnassignedSeen) {
-        statistics.ChangeXP(true);
+        Vars::Statistics->ChangeXP(true);
         ResetXPBools();
     }
 }
@@ -187,9 +198,9 @@ void NetEchoHandler::ReadIdentification(const host::Message& message) {
     if (message.Long("flags") & kHasHealth) {
         const std::int32_t health = message.Long("health");
         const std::int32_t maximum = message.Long("healthMax");
-        if (maximum == 0) throw Failure(failure::kDivisionByZero);
         TargetHealth = health;
         TargetHealthMax = maximum;
+        if (maximum == 0) throw Failure(failure::kDivisionByZero);
         TargetHealthRatio = std::min(static_cast<double>(health) / maximum, 1.0);
         target.TargetHud->UpdateHealth(true);
     }
@@ -213,7 +224,7 @@ void NetEchoHandler::HandleOptions(const host::Message& message) try {
     auto& chat = *Vars::ChatTextHandler;
     chat.ResetTargetList();
     const auto options = message.Struct("options");
-    if (options->Long("flags") & kHasWindowOptions) ReadWindows(*options);
+    if (options->Long("flags") & kHasWindowOptions) ReadWindows(message, *options);
     if (chat.TargetCount != 0) return;
     for (const auto& [window, types] : kDefaultWindows)
         for (const std::int32_t type : types) chat.SetTargetList(window, type, true);
@@ -221,27 +232,32 @@ void NetEchoHandler::HandleOptions(const host::Message& message) try {
     ReportFailure("HandleOptions", "NetEchoHandler");
 }
 
-void NetEchoHandler::ReadWindows(const host::MessageMember& options) {
-    const auto properties = options.Struct("optionProperties");
-    const std::int32_t count = options.Long("optionPropertyCount");
+void NetEchoHandler::ReadWindows(const host::Message& message, const host::MessageMember& options) {
+    const auto count = Either(options, message, [](const auto& place) { return place.Long("optionPropertyCount"); });
+    if (count <= 0) return;
+    const auto properties = Either(options, message, [](const auto& place) { return place.Struct("optionProperties"); });
     for (std::int32_t i = 0; i < count; ++i) {
         const auto property = properties->Item(i);
         if (property->Long("type") != kWindowList) continue;
-        const auto windows = property->Struct("windows");
         const std::int32_t window_count = property->Long("windowCount");
+        const auto windows = window_count > 0 ? property->Struct("windows") : nullptr;
         for (std::int32_t window = 0; window < window_count; ++window) {
             const auto item = windows->Item(window);
-            if (item->Long("type") != kWindow) continue;
-            const auto values = item->Struct("properties");
-            const std::int32_t value_count = item->Long("propertyCount");
-            for (std::int32_t v = 0; v < value_count; ++v) {
-                const auto value = values->Item(v);
-                if (value->Long("key") != kChatFilter) continue;
-                const auto filter = static_cast<std::uint32_t>(value->Long("value"));
-                for (const auto& [mask, types] : kFilterBits)
-                    if (filter & mask)
-                        for (const std::int32_t type : types) Vars::ChatTextHandler->SetTargetList(window, type, true);
-            }
+            if (item->Long("type") == kWindow) ReadWindow(window, *item);
+        }
+    }
+}
+
+void NetEchoHandler::ReadWindow(std::int32_t window, const host::MessageMember& item) {
+    const std::int32_t count = item.Long("propertyCount");
+    const auto properties = count > 0 ? item.Struct("properties") : nullptr;
+    for (std::int32_t i = 0; i < count; ++i) {
+        const auto property = properties->Item(i);
+        if (property->Long("key") != kChatFilter) continue;
+        const auto filter = static_cast<std::uint32_t>(property->Long("value"));
+        for (const auto& [mask, types] : kFilterBits) {
+            if (!(filter & mask)) continue;
+            for (const std::int32_t type : types) Vars::ChatTextHandler->SetTargetList(window, type, true);
         }
     }
 }

@@ -47,7 +47,8 @@ private:
     void ReadLogin(const host::Message& message);
     void ReadIdentification(const host::Message& message);
     void ReadTargetHealth(const host::Message& message);
-    void ReadWindows(const host::MessageMember& options);
+    void ReadWindows(const host::Message& message, const host::MessageMember& options);
+    void ReadWindow(std::int32_t window, const host::MessageMember& item);
 };
 
 }  // namespace ombrel

@@ -182,7 +182,7 @@ void Statistics::ChangeXP(bool showMessage) try {
     controls.XPSession->SetText(FormatCount(SessionXP, false));
     controls.TotalXP->SetText(FormatCount(TotalXP, false));
     UpdateXP();
-    TimetoLevel();
+    EstimateTime();
     if (XPTotalChange != 0.0) {
         const bool small = ToDouble(controls.XPFilterThreshold->Text()) > XPTotalChange && controls.XPFilter->Checked();
         if (!small && showMessage) DisplayXP();
@@ -216,8 +216,13 @@ void Statistics::DisplayXP() try {
     ReportFailure("DisplayXP", "Statistics");
 }
 
-std::string Statistics::TimetoLevel() try {
+// The last estimate stands while there is no rate.
+void Statistics::EstimateTime() {
     if (SessionXPHour != 0.0) TimeToLevelText = ConvTime(Divide(XPToNextLevel, SessionXPMin) * 60.0, 10, false);
+}
+
+std::string Statistics::TimetoLevel() try {
+    EstimateTime();
     return TimeToLevelText;
 } catch (...) {
     ReportFailure("TimetoLevel", "Statistics");

@@ -76,6 +76,7 @@ public:
 private:
     void ComputeLevel();
     void ShowBar();
+    void EstimateTime();
 };
 
 // Total experience at which a level is reached, by the game's own curve: exact up to 126, rounded to nearest above.

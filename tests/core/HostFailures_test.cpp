@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "adapters/sim/Calls.h"
+#include "tests/support/Messages.h"
 #include "tests/support/PluginTest.h"
 
 namespace ombrel::test {
@@ -49,6 +50,45 @@ const EventRow kEvents[] = {
      [](sim::Client&) {
          Vars::ControlHandler->StatusText->SetChecked(true);
          Vars::ControlHandler->ShowErrors->SetChecked(true);
+     }},
+    {"ExperienceMessage", [](sim::Client& c) { ServerSays(c, Quality(kUnassignedXP, 500)); },
+     [](sim::Client& c) { ServerSays(c, Quality(kTotalXP, 1000)); }},
+    {"ExperienceSpent", [](sim::Client& c) { ServerSays(c, Quality(kUnassignedXP, 10)); },
+     [](sim::Client& c) {
+         ServerSays(c, Quality(kTotalXP, 1000));
+         ServerSays(c, Quality(kUnassignedXP, 500));
+     }},
+    {"EffectMessage",
+     [](sim::Client& c) {
+         ServerSays(c, {{"Type", kEffect}, {"object", kDrudge}, {"effect", 44}, {"speed", 0.8}});
+     },
+     [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
+    {"KillMessage",
+     [](sim::Client& c) {
+         ServerSays(c, {{"Type", kEvent}, {"event", 0x1AD}, {"text", "You flatten Drudge Slave!"}});
+     }},
+    {"LoginSnapshot", [](sim::Client& c) { ServerSays(c, LoginSnapshot(1000, 500)); }},
+    {"IdentificationMessage",
+     [](sim::Client& c) {
+         ServerSays(c, {{"Type", kEvent},
+                        {"event", 0xC9},
+                        {"success", 1},
+                        {"object", kDrudge},
+                        {"flags", 0x100},
+                        {"health", 18},
+                        {"healthMax", 36},
+                        {"spellCount", 1},
+                        {"spells", {{{"spell", 2108}}}}});
+     },
+     [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
+    {"HealthMessage",
+     [](sim::Client& c) {
+         ServerSays(c, {{"Type", kEvent}, {"event", 0x1C0}, {"object", kDrudge}, {"health", 0.5}});
+     },
+     [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
+    {"OptionsMessage",
+     [](sim::Client& c) {
+         ClientSays(c, OptionsChanged(WindowOptions({0x18, 0x00080000})));
      }},
     {"QueueLink", [](sim::Client& c) { c.ChatClick("[Ombrel]", 0x710E0); }},
     {"CorpseOpened", [](sim::Client& c) { c.ContainerOpened(kCorpse); },
@@ -94,6 +134,8 @@ const Exception kExceptions[] = {
     // Lists that were not filled, and then the settings that find no rows in them.
     {"Login", "List.", 1, 2},
     {"Login", "PluginSite.IconLibrary", 1, 2},
+    // A row that could not be looked for, and the option that is read from it.
+    {"ExperienceMessage", "List.", 1, 2},
 };
 
 // How often a failure may be told of.
