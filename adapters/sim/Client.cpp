@@ -52,6 +52,7 @@ void Client::Initialize() { Start(); }
 // The framework forgets the receivers of window messages when it ends its plug-ins.
 void Client::Terminate() {
     if (!plugin_) return;
+    if (initialized_ && last_moment) last_moment();
     initialized_ = false;
     plugin_->IPlugin2_Terminate();
     sink_ = nullptr;
@@ -148,7 +149,10 @@ bool Client::Hotkey(const std::string& name) {
     return handled;
 }
 
-void Client::DeviceLost() { render_objects_.Raise(&host::RenderService::DeviceLost); }
+void Client::DeviceLost() {
+    if (screen && screen->DeviceLost) screen->DeviceLost();
+    render_objects_.Raise(&host::RenderService::DeviceLost);
+}
 
 // A line for the default window stands in the main one.
 void Client::Show(std::string_view text, std::int32_t color, std::int32_t window, bool from_plugin) {

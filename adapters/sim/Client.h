@@ -114,6 +114,12 @@ public:
     bool hotkeys_available = true;
     bool render_available = true;
 
+    // Draws what the plug-in draws, for those who want to see it. To be set before the plug-in starts.
+    host::RenderService* screen = nullptr;
+
+    // Called before the plug-in is terminated, while all that it shows is still there.
+    std::function<void()> last_moment;
+
     // Puts a spell on the character. 0 seconds or less: one that doesn't end.
     void Enchant(std::int32_t SpellID, double seconds, std::int32_t Family);
 
@@ -140,7 +146,8 @@ public:
     void Initialize();  // once more, on the same object
     void Terminate();
     APluginCore* plugin() { return plugin_.get(); }
-    SimView* view() { return view_; }  // the options view, while the plug-in has one
+    bool initialized() const { return initialized_; }  // and not terminated
+    SimView* view() { return view_; }                  // the options view, while the plug-in has one
 
     // What a plug-in is given.
     host::PluginSite& site() { return *site_; }

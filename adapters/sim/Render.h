@@ -24,11 +24,15 @@ private:
     bool bold_;
 };
 
-// A surface, known in recordings by its number.
+// A surface, known in recordings by its number. Where the client has a screen, what is drawn here is drawn there.
 class SimHudView final : public host::HudView {
 public:
-    SimHudView(Calls& calls, std::int32_t number, const host::Rect& region)
-        : calls_(calls), number_(number), region_(region) {}
+    SimHudView(Client& client, std::int32_t number, const host::Rect& region)
+        : calls_(client.calls),
+          number_(number),
+          region_(region),
+          screen_(client.screen),
+          seen_(screen_ ? screen_->CreateHUD(region) : nullptr) {}
 
     void BeginRender(bool filter) override;
     void Clear(const host::Rect& rect) override;
@@ -41,6 +45,8 @@ public:
     void SetRegion(const host::Rect& rect) override;
     void SetEnabled(bool enabled) override;
 
+    void Remove();  // from the screen
+
     std::int32_t number() const { return number_; }
     const host::Rect& region() const { return region_; }
     bool enabled() const { return enabled_; }
@@ -50,6 +56,8 @@ private:
     std::int32_t number_;
     host::Rect region_;
     bool enabled_ = false;
+    host::RenderService* screen_;
+    std::unique_ptr<host::HudView> seen_;  // nothing without a screen
 };
 
 class SimRenderService final : public host::RenderService {

@@ -17,6 +17,7 @@
 #include "adapters/sim/SessionPlayer.h"
 #include "adapters/sim/SessionReader.h"
 #include "adapters/sim/Transcript.h"
+#include "adapters/sim/draw/HudScreen.h"
 #include "apps/replay/Folders.h"
 #include "apps/replay/Options.h"
 
@@ -105,6 +106,32 @@ struct Silence {
     }
 };
 
+// What the player sees at the end. A session that ends the plug-in with its last record shows how it looked till then.
+class Screenshot {
+public:
+    Screenshot(sim::Client& client, sim::HudScreen* screen) : client_(client), screen_(screen) {
+        client.screen = screen;
+        if (screen) client.last_moment = [this] { last_ = Show(); };
+    }
+    ~Screenshot() { client_.last_moment = nullptr; }
+    Screenshot(const Screenshot&) = delete;
+    Screenshot& operator=(const Screenshot&) = delete;
+
+    void Write(const std::string& path) const {
+        if (client_.initialized() || !last_)
+            Show().Write(path);
+        else
+            last_->Write(path);
+    }
+
+private:
+    sim::Picture Show() const { return screen_->Show(client_.hooks.Region3D); }
+
+    sim::Client& client_;
+    sim::HudScreen* screen_;
+    std::optional<sim::Picture> last_;
+};
+
 void PlaySession(sim::SessionPlayer& player, Input& input, sim::Recorder* recorder) {
     sim::SessionReader reader(*input, input.standard() ? "standard input" : input.name());
     try {
@@ -130,8 +157,6 @@ void FeedChat(sim::Client& client, sim::SessionPlayer& player, sim::Recorder* re
 }
 
 int Run(const Options& options) {
-    if (!options.screenshot.empty()) throw std::runtime_error("--screenshot: pictures can't be drawn yet");
-
     std::vector<std::unique_ptr<Input>> sessions;
     for (const std::string& path : options.sessions) sessions.push_back(std::make_unique<Input>(path, std::cin));
     std::optional<Input> chat;
@@ -143,7 +168,10 @@ int Run(const Options& options) {
     const fs::path plugin_folder = options.plugin_folder.empty() ? resources : fs::path(options.plugin_folder);
     const PlayerFolders folders(options, plugin_folder);
 
+    std::optional<sim::HudScreen> screen;
+    if (!options.screenshot.empty()) screen.emplace();
     sim::Client client;
+    const Screenshot screenshot(client, screen ? &*screen : nullptr);
     client.system.documents = folders.documents.string();
     client.system.common_data = folders.common_data.string();
     client.system.plugin_folder = RootedPath(plugin_folder).string();
@@ -167,6 +195,7 @@ int Run(const Options& options) {
     for (const auto& session : sessions) PlaySession(player, *session, recorder ? &*recorder : nullptr);
     if (chat) FeedChat(client, player, recorder ? &*recorder : nullptr, *chat, options.sessions.empty());
 
+    if (screen) screenshot.Write(options.screenshot);
     if (recorder) recorder->Flush();
     if (calls && !**calls) throw std::runtime_error(options.calls + ": can't be written");
     std::cout.flush();

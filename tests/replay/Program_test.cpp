@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "adapters/sim/draw/Picture.h"
 #include "tests/replay/Replay.h"
 
 namespace ombrel::sim {
@@ -19,6 +20,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
+using testing::MatchesRegex;
 using testing::Not;
 
 std::string ReadAll(const fs::path& path) {
@@ -103,6 +105,25 @@ TEST_F(Program, FailsWhereItsOutputCannotBeWritten) {
     if (!fs::exists("/dev/full")) GTEST_SKIP() << "needs /dev/full, a file on a full disk";
     EXPECT_EQ(Run("--calls /dev/full " + kExample), 1);
     EXPECT_EQ(std::count(err.begin(), err.end(), '\n'), 1) << err;
+}
+
+// The evening ends with the plug-in, so what shows is how it looked till then.
+TEST_F(Program, DrawsTheEndOfASession) {
+    Write("area.jsonl", "{\"set\": \"hooks\", \"Region3D\": [0, 0, 400, 300]}\n");
+    Write("login.jsonl", "{\"event\": \"Char_LoginComplete\"}\n");
+    Write("end.jsonl", "{\"event\": \"Terminate\"}\n");
+    ASSERT_EQ(Run("--calls - --screenshot empty.png area.jsonl"), 0) << err;
+    ASSERT_EQ(Run("--calls - --screenshot huds.png area.jsonl login.jsonl"), 0) << err;
+    ASSERT_EQ(Run("--calls - --screenshot end.png area.jsonl login.jsonl end.jsonl"), 0) << err;
+
+    const Picture picture = Picture::Read((folder.path / "huds.png").string());
+    EXPECT_EQ(picture.width(), 400);
+    EXPECT_EQ(picture.height(), 300);
+    EXPECT_NE(ReadAll(folder.path / "huds.png"), ReadAll(folder.path / "empty.png"));
+    EXPECT_EQ(ReadAll(folder.path / "huds.png"), ReadAll(folder.path / "end.png"));
+
+    EXPECT_EQ(Run("--calls - --screenshot nowhere/huds.png area.jsonl"), 1);
+    EXPECT_THAT(err, MatchesRegex("ombrel-replay: nowhere/huds.png: .*\n"));
 }
 
 TEST_F(Program, PutsNothingIntoAFolderThatIsNamed) {
