@@ -17,6 +17,7 @@ namespace {
 constexpr std::int32_t kBeat = 200;       // milliseconds, with entries to work on
 constexpr std::int32_t kIdleBeat = 3000;  // with none, while the character is busy
 constexpr std::int32_t kPeaceMode = 1;
+constexpr std::size_t kMost = 10'000;  // entries
 
 bool IsKnown(std::int32_t eventtype) {
     return eventtype >= EventQueue::kUseItem && eventtype <= EventQueue::kUseStackOnItem;
@@ -47,7 +48,7 @@ void EventQueue::Add(std::int32_t eventtype, host::Id arg1, host::Id arg2, std::
         const std::string name = Vars::FilterHandler->GetName(eventtype == kUseItemOnStack ? arg2 : arg1);
         wtcw("Adding " + name + " to the event queue. <Tell:IIDString:463072:[Ombrel]>Run queued events.<\\Tell>");
     }
-    events_.push_back({eventtype, arg1, arg2, arg3});
+    Append({eventtype, arg1, arg2, arg3});
     if (autorun) {
         running = 2;
         EventTimer->Start(kBeat);
@@ -56,6 +57,15 @@ void EventQueue::Add(std::int32_t eventtype, host::Id arg1, host::Id arg2, std::
     }
 } catch (...) {
     ReportFailure("Add", "EventQueue");
+}
+
+// What nobody works off does not grow for ever: the oldest goes.
+void EventQueue::Append(const EventItem& event) {
+    events_.push_back(event);
+    if (events_.size() <= kMost) return;
+    events_.pop_front();
+    if (!overflowed_) wtcw_error("The event queue is full: its oldest events are lost.");
+    overflowed_ = true;
 }
 
 void EventQueue::AddByName(std::int32_t eventtype, const std::string& name1, const std::string& name2) try {

@@ -40,11 +40,13 @@ public:
     Owned<host::Timer> EventTimer;
 
 private:
+    void Append(const EventItem& event);
     void HandleEvents();
     void HandleEvent(const EventItem& event, bool standing);
     bool Ready(bool showMessage);
 
     std::deque<EventItem> events_;
+    bool overflowed_ = false;     // the player knows that events were lost
     bool message_shown_ = false;  // this wait has shown the peace-mode message
     bool waiting_ = false;        // an action was sent, and the character isn't free yet
 };

@@ -88,7 +88,7 @@ void SpellHandler::HandleBeers(std::int32_t selectedTime) try {
 void SpellHandler::AddBeer(const std::string& name) try {
     auto& filter = *Vars::FilterHandler;
     const host::Id beer = filter.GetIDinInv(name);
-    if (beer == -1) return;
+    if (beer == -1 || beer == 0) return;  // none, or the search has failed
     Vars::EventQueue->Add(EventQueue::kUseStackOnItem, beer, filter.GetMyCharGUID(), filter.GetItemStackCount(beer));
 } catch (...) {
     ReportFailure("AddBeer", "SpellHandler");

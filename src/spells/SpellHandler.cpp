@@ -31,6 +31,12 @@ std::string DisplayName(const SpellInfo& spell) {
     return spell.sTarget.empty() ? spell.Name : spell.Name + " on " + spell.sTarget;
 }
 
+// What a row of the two lists says.
+std::string RowName(const SpellInfo& spell, bool developer) {
+    if (spell.Debuff) return spell.Name;
+    return developer ? fmt::format("{} {} {}", spell.spellid, spell.family, spell.Name) : DisplayName(spell);
+}
+
 struct Warning {
     std::int32_t seconds;
     std::string_view text;
@@ -63,15 +69,10 @@ SpellInfoPtr SpellHandler::FromEnchantment(const host::Enchantment& enchantment,
     return spell;
 }
 
-// One family shows one line: the strongest, and of equals the longest. Spells on items are never merged.
-void SpellHandler::BuildSpellList() try {
-    if (!Vars::Loaded) return;
-
-    wtcw_debug("Build Spell List");
+// The enchantments, one of each family: the strongest, and of equals the longest. The cooldowns among them stand apart.
+std::vector<SpellInfoPtr> SpellHandler::ReadEnchantments(std::int32_t now) {
     auto& filter = *Vars::FilterHandler;
-    CooldownTimers.clear();
     tsl::ordered_map<std::int32_t, SpellInfoPtr> families;
-    const std::int32_t now = NowUnix();
     const std::int32_t count = filter.GetMyEnchantmentCount();
     for (std::int32_t index = 0; index < count; ++index) {
         const host::Enchantment enchantment = filter.GetMyEnchantment(index);
@@ -97,16 +98,29 @@ void SpellHandler::BuildSpellList() try {
     std::vector<SpellInfoPtr> spells;
     spells.reserve(families.size());
     for (const auto& [family, spell] : families) spells.push_back(spell);
-    if (Vars::ControlHandler->SpellsItem->Checked()) {
-        std::vector<SpellInfoPtr> over;
-        for (const auto& [item, info] : ItemSpells) {
-            for (const auto& [family, spell] : info.Spells) {
-                spell->timeRemaining = ToLong(static_cast<double>(spell->finish) - now);
-                (spell->timeRemaining < 1 ? over : spells).push_back(spell);
-            }
+    return spells;
+}
+
+// Spells on items are never merged, with each other or with an enchantment. Those that have run out leave the store.
+void SpellHandler::TakeItemSpells(std::int32_t now, std::vector<SpellInfoPtr>& spells) {
+    std::vector<SpellInfoPtr> over;
+    for (const auto& [item, info] : ItemSpells) {
+        for (const auto& [family, spell] : info.Spells) {
+            spell->timeRemaining = ToLong(static_cast<double>(spell->finish) - now);
+            (spell->timeRemaining < 1 ? over : spells).push_back(spell);
         }
-        for (const auto& spell : over) RemoveItemSpell(spell->sTarget, spell->family);
     }
+    for (const auto& spell : over) RemoveItemSpell(spell->sTarget, spell->family);
+}
+
+void SpellHandler::BuildSpellList() try {
+    if (!Vars::Loaded) return;
+
+    wtcw_debug("Build Spell List");
+    CooldownTimers.clear();
+    const std::int32_t now = NowUnix();
+    std::vector<SpellInfoPtr> spells = ReadEnchantments(now);
+    if (Vars::ControlHandler->SpellsItem->Checked()) TakeItemSpells(now, spells);
 
     for (const auto& spell : spells)
         if (spell->timeRemaining == -1) spell->timeRemaining = kNever;
@@ -185,10 +199,7 @@ std::int32_t SpellHandler::CountDown(std::int32_t now) {
 
         host::List& list = spell->Debuff ? *controls.DebuffList : *controls.BuffList;
         const std::int32_t row = list.AddRow();
-        std::string name = spell->Name;
-        if (!spell->Debuff)
-            name =
-                developer ? fmt::format("{} {} {}", spell->spellid, spell->family, spell->Name) : DisplayName(*spell);
+        std::string name = RowName(*spell, developer);
         list.SetData(0, row, spell->lngIcon, 1);
         const bool tracked = !spell->Debuff && (by_family ? spell->family == family : name == selection);
         list.SetData(1, row, std::move(name));
@@ -203,11 +214,12 @@ std::int32_t SpellHandler::CountDown(std::int32_t now) {
 
 std::int32_t SpellHandler::ShowTracked(std::int32_t noted, bool selected) {
     auto& controls = *Vars::ControlHandler;
-    const std::string& offset = controls.SpellsOffset->Text();
+    const std::string& typed = controls.SpellsOffset->Text();
+    const std::int32_t offset = IsNumeric(typed) ? ToLong(typed) : 0;
     std::int32_t selectedTime = noted;
     std::string text = "N/A";
     if (selected && noted >= 1) {
-        selectedTime = IsNumeric(offset) ? Later(noted, ToLong(offset)) : noted;
+        selectedTime = Later(noted, offset);
         if (selectedTime > 0) text = ConvTime(selectedTime);
     }
     controls.SpellsTracked->SetText(text);

@@ -57,6 +57,8 @@ public:
 
 private:
     SpellInfoPtr FromEnchantment(const host::Enchantment& enchantment, std::int32_t now);
+    std::vector<SpellInfoPtr> ReadEnchantments(std::int32_t now);
+    void TakeItemSpells(std::int32_t now, std::vector<SpellInfoPtr>& spells);
     void FileItemSpell(SpellInfoPtr spell);
     void FindNextSpell();
     std::int32_t CountDown(std::int32_t now);

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "adapters/sim/Calls.h"
+#include "spells/SpellHandler.h"
 #include "tests/support/Messages.h"
 #include "tests/support/PluginTest.h"
 
@@ -30,6 +31,16 @@ constexpr host::Id kDrudge = 0x101;
 constexpr host::Id kHam = 0x102;
 constexpr host::Id kKit = 0x103;
 constexpr host::Id kNote = 0x104;
+constexpr host::Id kAle = 0x105;
+
+// Spells that run out, one on the character and one that is new to the list.
+void Enchant(sim::Client& client) {
+    client.LoadSpells(OMBREL_SOURCE_DIR "/resources/sim/spells.tsv");
+    client.Enchant(1332, 2700, 1);
+    client.Enchant(1327, 210, 116);
+    client.Enchant(-32766, 60, 0);
+    client.ChangeEnchantments(0, {});
+}
 
 const EventRow kEvents[] = {
     {"Login", [](sim::Client& c) { c.LoginComplete(); }, [](sim::Client&) {}, true},
@@ -114,6 +125,25 @@ const EventRow kEvents[] = {
     {"MouseUp", [](sim::Client& c) { c.WindowMessage(514, 20, 20, 0, 0); }},
     {"Hotkey", [](sim::Client& c) { c.Hotkey("OM:OneKeyHeal"); }},
     {"DeviceLost", [](sim::Client& c) { c.DeviceLost(); }},
+    {"BuffsBeersAndGems", [](sim::Client& c) { c.clock.Advance(1s); },
+     [](sim::Client& c) {
+         Vars::ControlHandler->UseGems->SetChecked(true);
+         Vars::ControlHandler->UseBeers->SetChecked(true);
+         Vars::SpellHandler->lFavor = kNote;
+         Enchant(c);
+     }},
+    {"ItemEnchanted", [](sim::Client& c) { c.ChatText("You cast Blade Bane VI on your armor.\n", 7, 1); }, Enchant},
+    {"BeersDrunk", [](sim::Client& c) { c.Hotkey("OM:DrinkBeersNow"); }},
+    {"QueueApplies", [](sim::Client& c) { c.clock.Advance(200ms); },
+     [](sim::Client& c) { c.Hotkey("OM:DrinkBeersNow"); }},
+    {"QueueIsEmpty", [](sim::Client& c) { c.clock.Advance(200ms); }, [](sim::Client& c) { c.Hotkey("OM:RunEvents"); }},
+    {"SpellsExported", [](sim::Client& c) { c.ChatParser("/m listspells"); },
+     [](sim::Client& c) {
+         sim::SpellRow row;
+         row.ID = 7;
+         c.spells = {};
+         c.spells.Put(row);
+     }},
     {"FirstSeconds", [](sim::Client& c) { c.clock.Advance(3s); }},
     {"AMinute", [](sim::Client& c) { c.clock.Advance(60s); }},
 };
@@ -136,6 +166,7 @@ const Exception kExceptions[] = {
     {"Login", "PluginSite.IconLibrary", 1, 2},
     // A row that could not be looked for, and the option that is read from it.
     {"ExperienceMessage", "List.", 1, 2},
+    {"BuffsBeersAndGems", "List.", 1, 2},
 };
 
 // How often a failure may be told of.
@@ -157,6 +188,7 @@ struct Evening : GameSession {
         Carry(kHam, "Ham").Type = host::object_class::kFood;
         Carry(kKit, "Plentiful Healing Kit").Type = host::object_class::kHealingKit;
         Carry(kNote, "Trade Note (250,000)");
+        Carry(kAle, "Tusker Spit Ale").Long[host::key::kStackCount] = 3;
         Start();
         if (!event.before_login) LogIn();
         event.prepare(client);
