@@ -1,0 +1,26 @@
+#include "adapters/decal/DecalTimer.h"
+
+namespace ombrel::decal {
+
+DecalTimer::DecalTimer(std::string_view name)
+    : timer_(CreateInstance<IDecalTimer>(kTimerClass)),
+      events_(timer_.Unknown(), ITimerEvents::kIid,
+              {{ITimerEvents::Timeout, [this](const EventArguments&) { Raise(Timeout); }}}) {
+    timer_.Call(IDecalTimer::SetTag, Variant(name).get());
+}
+
+// A timer that somebody else still holds must not go on.
+DecalTimer::~DecalTimer() {
+    try {
+        events_.Disconnect();
+        if (Running()) Stop();
+    } catch (...) {
+        // Whatever it does now, nobody hears it.
+    }
+}
+
+void DecalTimer::Start(std::int32_t milliseconds) { timer_.Call(IDecalTimer::Start, milliseconds); }
+void DecalTimer::Stop() { timer_.Call(IDecalTimer::Stop); }
+bool DecalTimer::Running() const { return timer_.Read(IDecalTimer::Running); }
+
+}  // namespace ombrel::decal

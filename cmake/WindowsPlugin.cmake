@@ -1,0 +1,14 @@
+# Ombrel.dll: the plug-in behind the framework's interfaces.
+enable_language(RC)
+
+configure_file(adapters/decal/Ombrel.rc.in ${CMAKE_BINARY_DIR}/generated/Ombrel.rc @ONLY)
+file(GLOB icons CONFIGURE_DEPENDS adapters/decal/icons/*.ico)
+set_source_files_properties(${CMAKE_BINARY_DIR}/generated/Ombrel.rc PROPERTIES OBJECT_DEPENDS "${icons}")
+
+file(GLOB decal_sources CONFIGURE_DEPENDS adapters/decal/*.cpp)
+add_library(Ombrel MODULE ${decal_sources} adapters/decal/Ombrel.def ${CMAKE_BINARY_DIR}/generated/Ombrel.rc)
+target_include_directories(Ombrel PRIVATE adapters/decal/icons)
+target_link_libraries(Ombrel PRIVATE ombrel_core pugixml::pugixml ombrel_warnings ole32 oleaut32 uuid winmm dsound)
+# Everything but the system's own libraries is in the file. Exports are named without their calling convention's marks.
+target_link_options(Ombrel PRIVATE -static -Wl,--enable-stdcall-fixup)
+set_target_properties(Ombrel PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
