@@ -10,5 +10,5 @@ add_library(Ombrel MODULE ${decal_sources} adapters/decal/Ombrel.def ${CMAKE_BIN
 target_include_directories(Ombrel PRIVATE adapters/decal/icons)
 target_link_libraries(Ombrel PRIVATE ombrel_core pugixml::pugixml ombrel_warnings ole32 oleaut32 uuid winmm dsound)
 # Everything but the system's own libraries is in the file. Exports are named without their calling convention's marks.
-target_link_options(Ombrel PRIVATE -static -Wl,--enable-stdcall-fixup)
+target_link_options(Ombrel PRIVATE -static -Wl,--enable-stdcall-fixup -Wl,--gc-sections)
 set_target_properties(Ombrel PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
