@@ -2,19 +2,13 @@
 
 #include <fmt/format.h>
 
-#include <array>
 #include <iterator>
+
+#include "adapters/sim/ChatColors.h"
 
 namespace ombrel::sim {
 namespace {
 
-// The client's colours of chat types, 0xRRGGBB.
-constexpr std::array<std::uint32_t, 32> kChatColors = {
-    0x7FFF7E, 0x7FFF7E, 0xFFFFFF, 0xEBEB3A, 0xBBBB47, 0xFF7EFF, 0xFF544E, 0x3EBEFF,  //
-    0xF6908F, 0xF6908F, 0xEBEB3A, 0xBBBB47, 0xD2D2C7, 0x3EDCDC, 0xB4DCEF, 0xFF544E,  //
-    0x7FFF7E, 0x3EBEFF, 0xE78F1E, 0xEBEB3A, 0x7FFF7E, 0xFF544E, 0xDD7B72, 0x7FFF7E,  //
-    0x7FFF7E, 0x7FFF7E, 0xFF544E, 0xB4DCEF, 0xB4DCEF, 0xB4DCEF, 0xB4DCEF, 0xEBEB3A,
-};
 constexpr std::string_view kDim = "\x1b[2m";
 constexpr std::string_view kBold = "\x1b[1m";
 constexpr std::string_view kReset = "\x1b[0m";

@@ -21,11 +21,4 @@ TemporaryFolder::~TemporaryFolder() {
     fs::remove_all(path_, ignored);
 }
 
-fs::path Resources() {
-    std::error_code error;
-    const fs::path program = fs::read_symlink("/proc/self/exe", error);
-    const fs::path installed = program.parent_path().parent_path() / "share" / "ombrel";
-    return !error && fs::is_directory(installed) ? installed : fs::path(OMBREL_RESOURCES);
-}
-
 }  // namespace ombrel::replay

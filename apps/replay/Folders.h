@@ -1,8 +1,10 @@
-// Where the program finds its resources and puts the player's files.
+// Where the program puts the player's files, and finds its resources.
 #pragma once
 
 #include <filesystem>
 #include <optional>
+
+#include "apps/support/Resources.h"
 
 namespace ombrel::replay {
 
@@ -20,8 +22,5 @@ public:
 private:
     std::filesystem::path path_;
 };
-
-// The installed resources beside the program, else those that it was built with.
-std::filesystem::path Resources();
 
 }  // namespace ombrel::replay

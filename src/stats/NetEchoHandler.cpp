@@ -235,7 +235,8 @@ void NetEchoHandler::HandleOptions(const host::Message& message) try {
 void NetEchoHandler::ReadWindows(const host::Message& message, const host::MessageMember& options) {
     const auto count = Either(options, message, [](const auto& place) { return place.Long("optionPropertyCount"); });
     if (count <= 0) return;
-    const auto properties = Either(options, message, [](const auto& place) { return place.Struct("optionProperties"); });
+    const auto properties =
+        Either(options, message, [](const auto& place) { return place.Struct("optionProperties"); });
     for (std::int32_t i = 0; i < count; ++i) {
         const auto property = properties->Item(i);
         if (property->Long("type") != kWindowList) continue;

@@ -13,9 +13,6 @@
 namespace ombrel::sim {
 namespace {
 
-// A bar of the client stands above the 3D area. Displays count from the window's top.
-constexpr std::int32_t kBar = 28;
-
 constexpr std::int32_t kBold = 600;
 constexpr std::int32_t kCentred = 1;
 
@@ -131,7 +128,7 @@ Picture HudScreen::Show(const host::Rect& region) const {
     Picture area(Size(region.left, region.right), Size(region.top, region.bottom));
     const Drawing pen = area.Pen();
     PaintLandscape(pen.get(), area.width(), area.height());
-    const double top = static_cast<double>(region.top) + kBar;
+    const double top = static_cast<double>(region.top) + kBarHeight;
     for (const View* view : views_) view->PaintOn(pen.get(), region.left, top);
     return area;
 }

@@ -15,6 +15,9 @@
 
 namespace ombrel::sim {
 
+// A bar of the client stands above the 3D area. Displays count from the top of the window, and so does the mouse.
+inline constexpr std::int32_t kBarHeight = 28;
+
 class HudScreen final : public host::RenderService {
 public:
     HudScreen();

@@ -1,9 +1,9 @@
 #include "adapters/sim/draw/ViewPicture.h"
 
 #include <algorithm>
-#include <array>
 
 #include "adapters/sim/draw/Canvas.h"
+#include "adapters/sim/draw/Icons.h"
 
 namespace ombrel::sim {
 namespace {
@@ -14,14 +14,6 @@ constexpr Rgb kPanel = 0x23211C, kBorder = 0x8A7A4E, kField = 0xE8E0C8, kInk = 0
 constexpr Rgb kListBack = 0x12110E, kListLine = 0x2C2A24, kButton = 0xC9B98A, kTab = 0x3A362C, kTabOpen = 0x5E5436;
 constexpr Rgb kWhite = 0xFFFFFF, kMark = 0x7FD07F;
 constexpr std::int32_t kTitleHeight = 20;
-
-// The colours of the plug-in's own icons, from 101 on: those of chat, then those of the displays.
-constexpr std::array<Rgb, 31> kColorIcons = {
-    0xFFFFFF, 0xD2D2C7, 0xFF544E, 0xDD7B72, 0x3EBEFF, 0xB4DCEF, 0x3EDCDC, 0x7FFF7E, 0xEBEB3A, 0xBBBB47, 0xFF7EFF,
-    0xF6908F, 0xE78F1E, 0x000000, 0xC0C0C0, 0x000000, 0xFF0000, 0xFF9999, 0x4040FF, 0x80FFFF, 0x00C0C0, 0x00AF00,
-    0x00FF00, 0xFFFF00, 0xC0C000, 0xFF00FF, 0xFFA4FF, 0xFFC0C0, 0xFFE5B4, 0xFF8000, 0xFFC488};
-constexpr std::int32_t kFirstColorIcon = 101, kDefaultColorIcon = 114;
-constexpr std::int32_t kUpIcon = 0x60028FD, kDownIcon = 0x60028FC, kDeleteIcon = 0x60011F8;
 
 Rgb FromBgr(std::int32_t color) {
     const auto bgr = static_cast<std::uint32_t>(color);
@@ -73,7 +65,7 @@ private:
     void DrawEdit(const Element& element, const Rect& rect);
     void DrawCell(const Element& element, std::size_t column, std::int32_t row, const Rect& rect);
     void DrawCheck(const Rect& box, bool checked);
-    void DrawIcon(const Rect& rect, std::int32_t library, std::int32_t icon);
+    void DrawIcon(const Rect& rect, std::int32_t library, std::int32_t number);
 
     Canvas& canvas_;
 };
@@ -182,25 +174,28 @@ void Painter::DrawChoice(const Element& element, const Rect& rect) {
     canvas_.Text({rect.left + 3, rect.top, button.left, rect.bottom}, choice.entries()[choice.selected()].text, style);
 }
 
-void Painter::DrawIcon(const Rect& rect, std::int32_t library, std::int32_t icon) {
-    if (icon == 0) return;
+void Painter::DrawIcon(const Rect& rect, std::int32_t library, std::int32_t number) {
+    if (number == 0) return;
     const std::int32_t x = (rect.left + rect.right) / 2, y = (rect.top + rect.bottom) / 2;
     const Rect box{x - 6, y - 6, x + 6, y + 6};
-    if (library != 0) {
-        const std::int32_t index = icon - kFirstColorIcon;
-        if (index >= 0 && index < static_cast<std::int32_t>(kColorIcons.size())) canvas_.Fill(box, kColorIcons[index]);
-        canvas_.Frame(box, kBorder);
-        if (icon == kDefaultColorIcon)
+    const Icon icon = IconOf(library, number);
+    switch (icon.shape) {
+        case IconShape::kUp:
+        case IconShape::kDown:
+            canvas_.Triangle({x - 5, y - 4, x + 5, y + 4}, icon.shape == IconShape::kUp, icon.color);
+            break;
+        case IconShape::kDelete:
+            canvas_.Line(x - 4, y - 4, x + 4, y + 4, 2.5, icon.color);
+            canvas_.Line(x - 4, y + 4, x + 4, y - 4, 2.5, icon.color);
+            break;
+        case IconShape::kNoColor:
+            canvas_.Frame(box, kBorder);
             canvas_.Line(box.left + 1, box.bottom - 1, box.right - 1, box.top + 1, 1, kBorder);
-    } else if (icon == kUpIcon || icon == kDownIcon) {
-        canvas_.Triangle({x - 5, y - 4, x + 5, y + 4}, icon == kUpIcon, 0xD8C070);
-    } else if (icon == kDeleteIcon) {
-        canvas_.Line(x - 4, y - 4, x + 4, y + 4, 2.5, 0xD04038);
-        canvas_.Line(x - 4, y + 4, x + 4, y - 4, 2.5, 0xD04038);
-    } else {
-        const auto shade = static_cast<Rgb>(icon) * 2654435761U;
-        canvas_.Fill(box, (shade & 0x7F7F7F) + 0x404040);
-        canvas_.Frame(box, kWhite);
+            break;
+        case IconShape::kColor:
+            canvas_.Fill(box, icon.color);
+            canvas_.Frame(box, kBorder);
+            break;
     }
 }
 
