@@ -46,6 +46,17 @@ ordered_json Fields(const HUDHandler& canvas) {
 ordered_json Fields(const HudHandlerT& canvas) {
     ordered_json fields = FrameFields(canvas.frame);
     fields["object"] = canvas.Object() ? canvas.Object()->GUID() : 0;
+    ordered_json debuffs = ordered_json::array();
+    for (const auto& [creature, spells] : canvas.debuffs()) {
+        for (const auto& [family, spell] : spells.Spells) {
+            debuffs.push_back({{"object", creature},
+                               {"family", family},
+                               {"spell", spell->spellid},
+                               {"remaining", spell->timeRemaining}});
+        }
+    }
+    fields["debuffs"] = std::move(debuffs);
+    fields["rows"] = canvas.Rows();
     return fields;
 }
 

@@ -46,11 +46,11 @@ HUDTargetHandler::HUDTargetHandler() {
 
 HUDTargetHandler::~HUDTargetHandler() { wtcw_debug("HUDTarget Handler Terminate"); }
 
-void HUDTargetHandler::CreateHUD() try { TargetHud->frame.DrawHUD(false); } catch (...) {
+void HUDTargetHandler::CreateHUD() try { TargetHud->Refresh(); } catch (...) {
     ReportFailure("CreateHUD", "HUDTargetHandler");
 }
 
-void HUDTargetHandler::UpdateHUD() try { TargetHud->frame.DrawHUD(false); } catch (...) {
+void HUDTargetHandler::UpdateHUD() try { TargetHud->Refresh(); } catch (...) {
     ReportFailure("UpdateHUD", "HUDTargetHandler");
 }
 

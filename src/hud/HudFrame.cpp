@@ -56,6 +56,7 @@ void HudFrame::Open(Content content) try {
     fade_timer_->Timeout = [this] { FadeTimer_Timeout(); };
     font_ = Vars::Decal->CreateFont(font_face_, font_size_, kBold);
     space_width_ = font_->TextWidth(" ");
+    if (content_.measure && content_.measure()) ComputeDimensions();
     if (Vars::HudFailed) return;
     try {
         service_ = Vars::Site->GetRenderService();
@@ -106,7 +107,7 @@ void HudFrame::UpdatePos() try {
 
 void HudFrame::MoveHUD() try {
     if (Vars::HudFailed) return;
-    if (Vars::DebugMode) wtcw_debug(fmt::format("{}{}", names_.move, title_));
+    TellOf(names_.move);
     ComputeDimensions();
     view_->SetRegion(rect_);
 } catch (...) {
@@ -118,20 +119,28 @@ void HudFrame::SetSize(std::int32_t width, std::int32_t height) {
     height_ = height;
 }
 
+void HudFrame::TellOf(std::string_view line) const {
+    if (Vars::DebugMode && !line.empty()) wtcw_debug(fmt::format("{}{}", line, title_));
+}
+
 // The surface.
 
 // A surface that can't be made is the end of all HUDs until the plug-in is loaded again.
 void HudFrame::CreateHUD() {
     if (Vars::HudFailed) return;
-    if (Vars::DebugMode) wtcw_debug(fmt::format("{}{}", names_.create, title_));
+    TellOf(names_.create);
     view_.Release();
+    TellOf(names_.dropped);
     Failure failure(0, {});
     try {
         view_ = service_->CreateHUD(rect_);
     } catch (const Failure& thrown) {
         failure = thrown;
     }
-    if (view_) return;
+    if (view_) {
+        all_due_ = true;
+        return TellOf(names_.created);
+    }
     Vars::HudFailed = true;
     ErrorReport(fmt::format("CreateHUD Failure{} {} {} {}", rect_.top, rect_.left, rect_.bottom, rect_.right),
                 "HudHandler" + title_, failure.number(), failure.description(), 0);
@@ -139,7 +148,7 @@ void HudFrame::CreateHUD() {
 
 void HudFrame::ResizeHUD() try {
     if (Vars::HudFailed) return;
-    if (Vars::DebugMode) wtcw_debug(fmt::format("{}{}", names_.resize, title_));
+    TellOf(names_.resize);
     ComputeDimensions();
     view_->SetEnabled(false);
     service_->RemoveHUD(*view_);
@@ -150,13 +159,14 @@ void HudFrame::ResizeHUD() try {
     view_->EndRender();
     view_->SetEnabled(enabled_);
     OutputHud(true);
+    TellOf(names_.resized);
 } catch (...) {
     ReportFailure("ResizeHUD", names_.object);
 }
 
 void HudFrame::DeviceLost() try {
     if (Vars::HudFailed) return;
-    if (Vars::DebugMode) wtcw_debug(fmt::format("{}{}", names_.lost, title_));
+    TellOf(names_.lost);
     content_.fit();
     ResizeHUD();
 } catch (...) {
@@ -193,11 +203,13 @@ void HudFrame::DrawHUD(bool Force) try {
 // Drawing. The frame is drawn each time; of the content only what has changed.
 
 void HudFrame::OutputHud(bool Force) try {
+    all_due_ |= Force;
     host::HudView& view = *view_;
     view.BeginRender(false);
     PaintFrame(view);
-    content_.paint(view, Force);
+    content_.paint(view, all_due_);
     view.EndRender();
+    all_due_ = false;
 } catch (...) {
     ReportFailure("OutputHud", names_.object);
     CloseRender();
@@ -218,7 +230,8 @@ void HudFrame::CloseRender() noexcept {
 
 void HudFrame::PaintFrame(host::HudView& view) {
     std::int32_t frame = HasNoContent() ? ConvertColor("Black", 0) : BackgroundColor;
-    if (within_ && DrawTitle && fade_ == kFullFade) frame = ConvertColor("Black", kFullFade);
+    const bool bare = content_.bare_when_empty && HasNoContent();
+    if (!bare && within_ && DrawTitle && fade_ == kFullFade) frame = ConvertColor("Black", kFullFade);
     const host::Rect strip{0, 0, width_, kTitleHeight};
     view.BeginText(kTitleFace, kTitleFont, kTitleWeight, false);
     ClearAndFill(view, strip, 0);
@@ -260,6 +273,7 @@ void HudFrame::SetFontFace(const std::string& face) try {
     font_face_ = face;
     font_ = Vars::Decal->CreateFont(font_face_, font_size_, kBold);
     space_width_ = font_->TextWidth(" ");
+    FontSet();
 } catch (...) {
     ReportFailure("FontFace", names_.object);
 }
@@ -267,8 +281,13 @@ void HudFrame::SetFontFace(const std::string& face) try {
 void HudFrame::SetFontSize(std::int32_t pixels) try {
     font_size_ = pixels;
     font_ = Vars::Decal->CreateFont(font_face_, font_size_, kBold);
+    FontSet();
 } catch (...) {
     ReportFailure("FontSize", names_.object);
+}
+
+void HudFrame::FontSet() {
+    if (content_.measure && content_.measure()) ResizeHUD();
 }
 
 std::int32_t HudFrame::TextWidth(std::string_view text) const { return font_->TextWidth(text); }
@@ -287,12 +306,14 @@ void HudFrame::SetWithinCanvas(bool within) try {
 void HudFrame::FadeTimer_Timeout() try {
     if (fading_in_ && fade_ < kFullFade) ++fade_;
     if (!fading_in_ && fade_ >= 1) --fade_;
+    const bool bare = content_.bare_when_empty && HasNoContent();
+    if (bare) fade_ = 0;
     if (fade_ == kFullFade) fade_timer_->Stop();
     if (fade_ == 0) {
         fade_timer_->Stop();
         within_ = false;
     }
-    if (DrawTitle) DrawHUD(false);
+    if (DrawTitle || bare) DrawHUD(false);
 } catch (...) {
     ReportFailure("FadeTimer_Timeout", names_.object);
 }
@@ -304,7 +325,7 @@ bool HudFrame::WithinHUD(std::int32_t x, std::int32_t y) const {
 }
 
 std::int32_t HudFrame::ClickHUD(std::int32_t x, std::int32_t y) const {
-    if (Vars::DebugMode) wtcw_debug(fmt::format("{}{}", names_.click, title_));
+    TellOf(names_.click);
     const std::int32_t from_left = x - x_;
     const std::int32_t from_top = y - y_;
     if (!WithinHUD(x, y) || from_top <= 0 || from_top >= kTitleHeight || !DrawTitle) return -1;

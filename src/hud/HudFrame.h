@@ -24,6 +24,8 @@ public:
         std::string_view object;
         std::string_view timer;
         std::string_view create, resize, move, click, lost;
+        // Further lines while the surface is made, and after a resize; empty for none.
+        std::string_view dropped = {}, created = {}, resized = {};
     };
 
     // What the frame asks of its canvas.
@@ -32,6 +34,10 @@ public:
         std::function<bool()> empty;  // nothing to show: the frame is clear then
         // Paints the content; `all` of it, or what has changed. A failure keeps what was painted before it.
         std::function<void(host::HudView& view, bool all)> paint;
+        // A font has been set: takes the size that goes with it; whether it changed. Nothing where only `fit` sizes.
+        std::function<bool()> measure = {};
+        // With nothing to show the frame is clear in full fade too, and the title bar doesn't fade in.
+        bool bare_when_empty = false;
     };
 
     static constexpr std::int32_t kTitleHeight = 14;
@@ -77,6 +83,9 @@ public:
     void SetFontSize(std::int32_t pixels);
     void SetSize(std::int32_t width, std::int32_t height);  // without moving or drawing
 
+    // Ends what was begun on the surface, after drawing that failed.
+    void CloseRender() noexcept;
+
     std::int32_t TextWidth(std::string_view text) const;
     // Draws text in its colour, around it the outline if the player wants one.
     void WriteText(host::HudView& view, const host::Rect& rect, std::int32_t color, std::int32_t outline_color,
@@ -109,7 +118,8 @@ private:
     void MoveHUD();
     void CreateHUD();
     void OutputHud(bool Force);
-    void CloseRender() noexcept;
+    void TellOf(std::string_view line) const;
+    void FontSet();
     void PaintFrame(host::HudView& view);
     void PaintTitle(host::HudView& view);
     void FadeTimer_Timeout();
@@ -135,6 +145,7 @@ private:
     bool enabled_ = false;
     bool within_ = false;
     bool fading_in_ = false;
+    bool all_due_ = false;  // everything is to be painted, since the surface is new
     std::int32_t fade_ = 0;
 };
 
