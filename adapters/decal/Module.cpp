@@ -8,8 +8,6 @@
 
 namespace ombrel::decal {
 
-std::atomic<long> held_objects{0};
-
 namespace {
 
 HMODULE this_module = nullptr;

@@ -41,6 +41,7 @@ void* PluginObject::Query(const GUID& id) {
 HRESULT PluginObject::Initialize(::IUnknown* Site) try {
     auto site = Com<IPluginSite2>::Of(Site);
     if (!site) return E_INVALIDARG;
+    if (running == core_.get()) running = nullptr;
     core_.reset();
     site_ = std::make_unique<DecalSite>(std::move(site), static_cast<IPlugin2*>(this));
     try {
