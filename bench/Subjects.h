@@ -7,6 +7,7 @@ void AddSorting();   // a chat line to its row, beside other matchers
 void AddChatRoad();  // the whole road of a chat line
 void AddMessages();  // server messages that don't matter
 void AddSettings();  // saving the settings, beside bare XML
+void AddSpells();    // a second of the spell lists
 void AddReplay();    // 100,000 lines through a session
 
 }  // namespace ombrel::bench

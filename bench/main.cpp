@@ -21,6 +21,7 @@ int main(int argc, char** argv) {
     ombrel::bench::AddChatRoad();
     ombrel::bench::AddMessages();
     ombrel::bench::AddSettings();
+    ombrel::bench::AddSpells();
     ombrel::bench::AddReplay();
 
     ombrel::bench::Table table;
