@@ -9,16 +9,6 @@ DecalTimer::DecalTimer(std::string_view name)
     timer_.Call(IDecalTimer::SetTag, Variant(name).get());
 }
 
-// A timer that somebody else still holds must not go on.
-DecalTimer::~DecalTimer() {
-    try {
-        events_.Disconnect();
-        if (Running()) Stop();
-    } catch (...) {
-        // Whatever it does now, nobody hears it.
-    }
-}
-
 void DecalTimer::Start(std::int32_t milliseconds) { timer_.Call(IDecalTimer::Start, milliseconds); }
 void DecalTimer::Stop() { timer_.Call(IDecalTimer::Stop); }
 bool DecalTimer::Running() const { return timer_.Read(IDecalTimer::Running); }

@@ -12,7 +12,6 @@ class DecalTimer final : public host::Timer {
 public:
     // The name goes into the timer's tag.
     explicit DecalTimer(std::string_view name);
-    ~DecalTimer() override;
 
     void Start(std::int32_t milliseconds) override;
     void Stop() override;
