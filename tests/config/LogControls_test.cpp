@@ -1,8 +1,6 @@
-#include "adapters/sim/Controls.h"
-#include "adapters/sim/View.h"
 #include "chat/LogHandler.h"
 #include "core/cells.h"
-#include "tests/support/PluginTest.h"
+#include "tests/config/ViewTest.h"
 
 namespace ombrel::test {
 namespace {
@@ -12,22 +10,9 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-class LogControlsTest : public PluginTest {
+class LogControlsTest : public ViewTest {
 protected:
     static LogHandler& log() { return *Vars::LogHandler; }
-
-    template <class Kind>
-    Kind& Control(const char* name) {
-        return dynamic_cast<Kind&>(*client.view()->Control(name));
-    }
-    void Check(const char* name, bool checked) { Control<sim::SimCheckbox>(name).Check(checked); }
-
-    std::filesystem::path Settings() const {
-        return common_data.path() / "Ombrel/Settings/Ombrel_Settings_Frostfell_Aldra.xml";
-    }
-
-    // Whether the settings were saved since it was last asked.
-    bool Saved() const { return std::filesystem::remove(Settings()); }
 
     bool HaveLog(const char* file) const {
         return std::filesystem::exists(documents.path() / "Asheron's Call/Logs" / file);
