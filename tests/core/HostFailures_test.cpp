@@ -10,6 +10,8 @@
 #include <utility>
 
 #include "adapters/sim/Calls.h"
+#include "adapters/sim/Controls.h"
+#include "adapters/sim/View.h"
 #include "spells/SpellHandler.h"
 #include "tests/support/Messages.h"
 #include "tests/support/PluginTest.h"
@@ -40,6 +42,11 @@ void Enchant(sim::Client& client) {
     client.Enchant(1327, 210, 116);
     client.Enchant(-32766, 60, 0);
     client.ChangeEnchantments(0, {});
+}
+
+template <class Kind>
+Kind& View(sim::Client& client, const char* name) {
+    return *client.view()->Get<Kind>(name);
 }
 
 const EventRow kEvents[] = {
@@ -146,6 +153,40 @@ const EventRow kEvents[] = {
      }},
     {"FirstSeconds", [](sim::Client& c) { c.clock.Advance(3s); }},
     {"AMinute", [](sim::Client& c) { c.clock.Advance(60s); }},
+
+    // The player at the options view.
+    {"SwitchStored", [](sim::Client& c) { View<sim::SimCheckbox>(c, "Beer_Str").Check(false); }},
+    {"SwitchOutput", [](sim::Client& c) { View<sim::SimCheckbox>(c, "Output_2").Check(true); }},
+    {"SwitchHuds", [](sim::Client& c) { View<sim::SimCheckbox>(c, "HUD_On").Check(true); }},
+    {"SwitchLogout", [](sim::Client& c) { View<sim::SimCheckbox>(c, "Logout_Timer").Check(true); }},
+    {"ClockFormat", [](sim::Client& c) { View<sim::SimCheckbox>(c, "HUD_Clock_24").Check(true); }},
+    {"HudFont", [](sim::Client& c) { View<sim::SimChoice>(c, "HUD_General_Font").Select(2); }},
+    {"HudBackground", [](sim::Client& c) { View<sim::SimChoice>(c, "HUD_General_BG_Color").Select(4); }},
+    {"HudRow", [](sim::Client& c) { View<sim::SimList>(c, "HUD_General").Click(6, 1); }},
+    {"LineColor", [](sim::Client& c) { View<sim::SimChoice>(c, "HUD_Main_Color").Select(3); }},
+    {"LineRow", [](sim::Client& c) { View<sim::SimList>(c, "HUD_LIST").Click(0, 2); }},
+    {"RefreshPeriod", [](sim::Client& c) { View<sim::SimChoice>(c, "HUD_Timeout").Select(2); }},
+    {"DownTimer", [](sim::Client& c) { View<sim::SimPushButton>(c, "HUD_Timer_Down").Press(); }},
+    {"ItemBySelection", [](sim::Client& c) { View<sim::SimPushButton>(c, "HUD_Items_Sel").Press(); },
+     [](sim::Client& c) { c.hooks.CurrentSelection = kHam; }},
+    {"ItemMoved", [](sim::Client& c) { View<sim::SimList>(c, "HUD_Items").Click(3, 1); },
+     [](sim::Client& c) {
+         for (const char* name : {"Ham", "Arrow", "Pie"}) {
+             View<sim::SimEdit>(c, "HUD_Items_Text").PutText(name);
+             View<sim::SimPushButton>(c, "HUD_Items_Add").Press();
+         }
+     }},
+    {"ExceptionBySelection", [](sim::Client& c) { View<sim::SimPushButton>(c, "Vitals_btnAddSelected").Press(); },
+     [](sim::Client& c) { c.hooks.CurrentSelection = kHam; }},
+    {"Percentage", [](sim::Client& c) { View<sim::SimEdit>(c, "Vitals_txtCheap").Type("60"); }},
+    {"CorpseRead", [](sim::Client& c) { View<sim::SimList>(c, "Corpses_List").Click(1, 0); },
+     [](sim::Client& c) {
+         c.Death("You have died.");
+         c.ChangePortalMode(1);
+     }},
+    {"RuleAdded", [](sim::Client& c) { View<sim::SimPushButton>(c, "Chat_Custom_Add").Press(); }},
+    {"GlobalSettings", [](sim::Client& c) { View<sim::SimCheckbox>(c, "Global_Settings").Check(true); }},
+    {"DefaultsSet", [](sim::Client& c) { View<sim::SimPushButton>(c, "Set_Default").Press(); }},
 };
 
 // Operations whose failure is told of more than once, or not at all.
@@ -167,6 +208,9 @@ const Exception kExceptions[] = {
     // A row that could not be looked for, and the option that is read from it.
     {"ExperienceMessage", "List.", 1, 2},
     {"BuffsBeersAndGems", "List.", 1, 2},
+    // The same while a character plays, whose HUDs look for rows too.
+    {"GlobalSettings", "List.", 1, 4},
+    {"GlobalSettings", "PluginSite.IconLibrary", 1, 4},
 };
 
 // How often a failure may be told of.

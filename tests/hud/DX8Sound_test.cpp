@@ -61,6 +61,33 @@ TEST_F(DX8SoundTest, ANewSoundReplacesTheOldAndAMissingOneLeavesNone) {
     EXPECT_THAT(CallsOf("SoundPlay"), IsEmpty());
 }
 
+TEST_F(DX8SoundTest, WhatTheSoundCardRefusesIsToldOfUnderTheProcedure) {
+    DX8Sound alarm;
+    alarm.SetSound("Loop\\Bell.wav");
+    struct Row {
+        const char* operation;
+        const char* procedure;
+        void (*act)(DX8Sound& alarm);
+    };
+    const Row rows[] = {
+        {"SoundBuffer.SetCurrentPosition", "Play", [](DX8Sound& a) { a.Play(true); }},
+        {"SoundBuffer.Play", "Play", [](DX8Sound& a) { a.Play(true); }},
+        {"SoundBuffer.Stop", "StopPlay", [](DX8Sound& a) { a.StopPlay(); }},
+        {"SoundBuffer.GetStatus", "Status", [](DX8Sound& a) { EXPECT_EQ(a.Status(), 0); }},
+        {"SoundDevice.CreateSoundBuffer", "SetSound", [](DX8Sound& a) { a.SetSound("Loop\\Horn.wav"); }},
+    };
+    for (const Row& row : rows) {
+        FailNext(row.operation);
+        row.act(alarm);
+        EXPECT_THAT(TakeReports(),
+                    ElementsAre(std::string("Error #5 occured in '") + row.procedure + "' of class 'DX8Sound'"));
+    }
+    EXPECT_EQ(alarm.Status(), 0) << "the sound that could not be replaced is gone";
+    alarm.SetSound("Loop\\Horn.wav");
+    alarm.Play(true);
+    EXPECT_EQ(alarm.Status(), 2);
+}
+
 TEST_F(DX8SoundTest, WithoutASoundCardItSaysSoOnceAndStaysSilent) {
     FailNext("Platform.DirectSoundCreate");
     DX8Sound alarm;
