@@ -24,7 +24,7 @@ constexpr std::int32_t kOffset = 2;
 constexpr std::int32_t kShown = 3;
 constexpr std::int32_t kColor = 4;
 
-// A time of day, as "1:30", "1:30:00" or "1:30 PM", read as a number of seconds.
+// A time of day, as "1:30", "1:30:00", "1:30 PM" or "1 PM", read as a number of seconds.
 std::int32_t TimeValue(std::string_view text) {
     std::string_view rest = Trim(text);
     const std::string lower = ToLower(rest);
@@ -32,11 +32,14 @@ std::int32_t TimeValue(std::string_view text) {
     const bool half_day = pm || lower.ends_with("am");
     if (half_day) rest = Trim(rest.substr(0, rest.size() - 2));
     const auto parts = Split(rest, ":");
-    if (parts.size() < 2 || parts.size() > 3) throw Failure(failure::kTypeMismatch);
+    if (parts.size() < (half_day ? 1 : 2) || parts.size() > 3) throw Failure(failure::kTypeMismatch);
     std::int32_t fields[3] = {};
     for (std::size_t i = 0; i < parts.size(); ++i) {
-        fields[i] = ToLong(parts[i]);
-        if (fields[i] < 0 || fields[i] > (i == 0 ? 23 : 59)) throw Failure(failure::kTypeMismatch);
+        const std::string_view digits = Trim(parts[i]);
+        if (digits.empty() || digits.find_first_not_of("0123456789") != std::string_view::npos)
+            throw Failure(failure::kTypeMismatch);
+        fields[i] = ToLong(digits);
+        if (fields[i] > (i == 0 ? 23 : 59)) throw Failure(failure::kTypeMismatch);
     }
     if (half_day) {
         if (fields[0] < 1 || fields[0] > 12) throw Failure(failure::kTypeMismatch);
@@ -124,14 +127,15 @@ void HUDClockHandler::UpdateControl(bool force) try {
 }
 
 void HUDClockHandler::AddRow(std::int32_t row, const std::string& key, bool newline) {
-    const host::List& rows = *Vars::ControlHandler->HudClockList;
-    std::string text = CellText(rows, kShown, row);
-    if (row == kDateRow && Vars::ControlHandler->HudClockShort->Checked()) {
-        // The short form leaves the year out.
-        text = text.substr(0, text.rfind('/'));
-    }
-    if (Vars::ControlHandler->HudClockLabel->Checked()) text = CellText(rows, kName, row) + ": " + text;
-    ClockHUD->Add(key, text, GetColorFromHUDIcon(CellIcon(rows, kColor, row)), -1, newline);
+    const auto& controls = *Vars::ControlHandler;
+    const host::List& rows = *controls.HudClockList;
+    text_.clear();
+    if (controls.HudClockLabel->Checked()) text_.append(CellText(rows, kName, row)).append(": ");
+    std::string_view shown = CellText(rows, kShown, row);
+    // The short date leaves the year out.
+    if (row == kDateRow && controls.HudClockShort->Checked()) shown = shown.substr(0, shown.rfind('/'));
+    text_ += shown;
+    ClockHUD->Add(key, text_, GetColorFromHUDIcon(CellIcon(rows, kColor, row)), -1, newline);
 }
 
 void HUDClockHandler::AddData() try {
@@ -144,8 +148,11 @@ void HUDClockHandler::AddData() try {
     if (up_start_ != 0) AddRow(controls.FindName("Up Timer", "HudClock"), "Up Timer", clock_newline);
     const std::int32_t date = controls.FindName("Date", "HudClock");
     if (CellFlag(rows, kOn, date)) AddRow(date, "Date", controls.HudClockDateDisp->Checked());
-    for (std::int32_t row = kOwnRow; row < rows.Count(); ++row)
-        if (CellFlag(rows, kOn, row)) AddRow(row, CellText(rows, kName, row), clock_newline);
+    for (std::int32_t row = kOwnRow; row < rows.Count(); ++row) {
+        if (!CellFlag(rows, kOn, row)) continue;
+        name_ = CellText(rows, kName, row);
+        AddRow(row, name_, clock_newline);
+    }
 } catch (...) {
     ReportFailure("AddData", "HUDClockHandler");
 }

@@ -31,6 +31,7 @@ private:
     void AddData();
     void AddRow(std::int32_t row, const std::string& key, bool newline);
 
+    std::string name_, text_;    // of the line being built; kept, so that no refresh needs memory of its own
     std::int32_t minute_ = -1;   // of the last refresh
     std::int32_t down_end_ = 0;  // moment, 0 when off
     std::int32_t up_start_ = 0;

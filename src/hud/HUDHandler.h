@@ -39,11 +39,12 @@ private:
 
     // Where the next item goes.
     struct Cursor {
-        std::int32_t left, top, step;
+        std::int64_t left, top;
     };
     void PaintItem(host::HudView& view, const HUDItem& item, bool touch, Cursor& cursor) const;
     void PaintIcon(host::HudView& view, const HUDItem& item, const host::Rect& rect) const;
     void PaintText(host::HudView& view, const HUDItem& item, const host::Rect& rect, std::int32_t format) const;
+    void WriteText(host::HudView& view, const host::Rect& rect, const HUDItem& item, std::int32_t format) const;
 
     tsl::ordered_map<std::string, HUDItem> items_;
 };

@@ -104,7 +104,8 @@ void HUDItemHandler::AddData() try {
         if (!CellFlag(items, 0, row)) continue;
         const auto i = static_cast<std::size_t>(row);
         const std::int32_t count = counts[i];
-        const std::int32_t icon = IconOf(row, CellText(items, 1, row), count);
+        const std::string name = CellText(items, 1, row);
+        const std::int32_t icon = IconOf(row, name, count);
         const double threshold = ToDouble(CellText(items, 2, row));
         std::string color = controls.HudItemsColor->Text(controls.HudItemsColor->Selected());
         if (count < threshold + Round(0.5 * threshold)) {

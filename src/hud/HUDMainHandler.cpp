@@ -114,22 +114,20 @@ void HUDMainHandler::AddData() try {
     const auto& controls = *Vars::ControlHandler;
     const host::List& rows = *controls.HudList;
     const bool short_labels = controls.HudMainLbl->Checked();
-    std::string text;
-    std::string value;
     for (std::int32_t row = 0; row < rows.Count(); ++row) {
         const std::string& name = CellText(rows, 1, row);
         const auto* line =
             std::find_if(std::begin(kLines), std::end(kLines), [&](const Line& l) { return l.row == name; });
         if (line == std::end(kLines) || !CellFlag(rows, 0, row)) continue;
         if (!line->value)
-            value = (controls.*line->text)->Text();
-        else if (!line->value(value))
+            value_ = (controls.*line->text)->Text();
+        else if (!line->value(value_))
             continue;
-        text = short_labels ? line->short_label : line->long_label;
-        text += value;
+        text_ = short_labels ? line->short_label : line->long_label;
+        text_ += value_;
         // A change fades to a fainter colour with the next one.
         const bool faint = line->row == kChange && !Vars::Statistics->ShowXPChange;
-        MainHud->Add(line->key, text, GetColorFromHUDIcon(CellIcon(rows, 2, row)), -1, true, faint ? kFaint : kOpaque);
+        MainHud->Add(line->key, text_, GetColorFromHUDIcon(CellIcon(rows, 2, row)), -1, true, faint ? kFaint : kOpaque);
     }
 } catch (...) {
     ReportFailure("AddData", "HUDMainHandler");

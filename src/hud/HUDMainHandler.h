@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "core/Ref.h"
 #include "hud/HUDHandler.h"
@@ -24,6 +25,8 @@ public:
 
 private:
     void AddData();
+
+    std::string value_, text_;  // of the line being built; kept, so that no refresh needs memory of its own
 };
 
 }  // namespace ombrel

@@ -7,6 +7,7 @@
 #include "core/FilterHandler.h"
 #include "core/Hub.h"
 #include "core/Vars.h"
+#include "core/convert.h"
 #include "core/failure.h"
 #include "host/Plugin.h"
 
@@ -31,6 +32,9 @@ host::Rect Moved(const host::Rect& rect, std::int32_t x, std::int32_t y) {
     return {rect.left + x, rect.top + y, rect.right + x, rect.bottom + y};
 }
 
+// A place that no screen reaches is a failure.
+std::int32_t Sum(std::int32_t a, std::int32_t b, std::int32_t c = 0) { return ToLong(static_cast<double>(a) + b + c); }
+
 void ClearAndFill(host::HudView& view, const host::Rect& rect, std::int32_t color) {
     view.Clear(rect);
     view.Fill(rect, color);
@@ -38,9 +42,7 @@ void ClearAndFill(host::HudView& view, const host::Rect& rect, std::int32_t colo
 
 }  // namespace
 
-HudFrame::HudFrame(const Names& names) : BackgroundColor(ConvertColor("Black", 5)), names_(names) {
-    ComputeDimensions();
-}
+HudFrame::HudFrame(const Names& names) : BackgroundColor(ConvertColor("Black", 5)), names_(names) {}
 
 HudFrame::~HudFrame() {
     try {
@@ -52,6 +54,7 @@ HudFrame::~HudFrame() {
 
 void HudFrame::Open(Content content) try {
     content_ = std::move(content);
+    ComputeDimensions();
     fade_timer_ = Vars::Site->CreateTimer(names_.timer);
     fade_timer_->Timeout = [this] { FadeTimer_Timeout(); };
     font_ = Vars::Decal->CreateFont(font_face_, font_size_, kBold);
@@ -75,10 +78,10 @@ void HudFrame::Open(Content content) try {
 void HudFrame::ComputeDimensions() {
     if (DockVert || DockHorz) {
         const host::Rect region = Vars::FilterHandler->Get3DRegion();
-        if (DockVert) y_ = region.bottom - height_ + kRegionOffset;
-        if (DockHorz) x_ = region.right - width_;
+        if (DockVert) y_ = Sum(region.bottom, -height_, kRegionOffset);
+        if (DockHorz) x_ = Sum(region.right, -width_);
     }
-    rect_ = {x_, y_, x_ + width_, y_ + height_};
+    rect_ = {x_, y_, Sum(x_, width_), Sum(y_, height_)};
     relative_ = {0, 0, width_, height_};
     if (Vars::DebugMode)
         wtcw_debug(fmt::format("ComputeDimensions: {}, {}, {}, {} | {}, {}", rect_.top, rect_.left, rect_.bottom,
@@ -326,8 +329,8 @@ bool HudFrame::WithinHUD(std::int32_t x, std::int32_t y) const {
 
 std::int32_t HudFrame::ClickHUD(std::int32_t x, std::int32_t y) const {
     TellOf(names_.click);
-    const std::int32_t from_left = x - x_;
-    const std::int32_t from_top = y - y_;
+    const std::int64_t from_left = std::int64_t{x} - x_;
+    const std::int64_t from_top = std::int64_t{y} - y_;
     if (!WithinHUD(x, y) || from_top <= 0 || from_top >= kTitleHeight || !DrawTitle) return -1;
     if (from_left > width_ - 20 && from_left < width_ - 12) return 2;
     if (from_left > width_ - 8 && from_left < width_) return 1;

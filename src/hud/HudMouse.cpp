@@ -6,6 +6,7 @@
 #include "config/ControlHandler.h"
 #include "core/Hub.h"
 #include "core/Vars.h"
+#include "core/convert.h"
 #include "host/Platform.h"
 #include "hud/HUDClockHandler.h"
 #include "hud/HUDItemHandler.h"
@@ -54,16 +55,24 @@ host::Point Cursor() { return Vars::Platform->ScreenToClient(Vars::Platform->Get
 
 bool IsDown(std::int32_t key) { return Vars::Platform->GetAsyncKeyState(key) < 0; }
 
+// Failure where the window is not: points and offsets of it are small.
+host::Point Difference(const host::Point& a, const host::Point& b) {
+    return {ToLong(static_cast<double>(a.x) - b.x), ToLong(static_cast<double>(a.y) - b.y)};
+}
+
 void PickUp(HudFrame& frame) {
     frame.OnCanvas = true;
-    drag_offset = {press_point.x - frame.x(), press_point.y - frame.y()};
+    drag_offset = Difference(press_point, {frame.x(), frame.y()});
 }
 
 void Move() {
-    const auto [x, y] = Cursor();
-    for (const Hud& hud : kHuds) hud.frame().SetWithinCanvas(hud.frame().WithinHUD(x, y));
-    for (const Hud& hud : kHuds)
-        if (hud.frame().OnCanvas) hud.frame().SetPos(x - drag_offset.x, y - drag_offset.y, true);
+    const host::Point cursor = Cursor();
+    for (const Hud& hud : kHuds) hud.frame().SetWithinCanvas(hud.frame().WithinHUD(cursor.x, cursor.y));
+    for (const Hud& hud : kHuds) {
+        if (!hud.frame().OnCanvas) continue;
+        const host::Point place = Difference(cursor, drag_offset);
+        hud.frame().SetPos(place.x, place.y, true);
+    }
 }
 
 // Control drags a HUD from anywhere, shift brings a hidden title bar back, and without either the title bar drags.
@@ -80,7 +89,7 @@ void Press() {
             if (!frame.WithinHUD(x, y)) continue;
             frame.DrawTitle = true;
             if (&hud == &kMainHud) wtcw_debug("here");
-        } else if (frame.DrawTitle && hud.within_title(x, y)) {
+        } else if (hud.within_title(x, y) && frame.DrawTitle) {
             PickUp(frame);
         }
     }
