@@ -52,8 +52,9 @@ std::int32_t DecalHooks::CombatMode() const { return hooks_.Read(IACHooks::Comba
 host::Id DecalHooks::ReferenceContainer() const { return hooks_.Read(IACHooks::VendorID); }
 host::Rect DecalHooks::Region3D() const { return FromRect(hooks_.Read(IACHooks::AC3DRegionRect)); }
 
+// A client that can't tell leaves the answer as it is: better to act in vain than never.
 bool DecalHooks::IsValidObject(host::Id id) const {
-    VARIANT_BOOL valid = VARIANT_FALSE;
+    VARIANT_BOOL valid = VARIANT_TRUE;
     hooks_.Call(IACHooks::IsValidObject, id, &valid);
     return ToBool(valid);
 }
