@@ -1,4 +1,6 @@
 // The plug-in's own commands, "/m" and a word.
+#include "chat/ChatCommands.h"
+
 #include <fmt/format.h>
 
 #include "automation/EventQueue.h"
@@ -236,6 +238,15 @@ void ChatTextHandler::RunCommand(std::string_view arguments) {
         }
         return;
     }
+}
+
+std::vector<std::string_view> ChatCommands() {
+    std::vector<std::string_view> tests;
+    for (const Command& command : kCommands) {
+        tests.push_back(command.test);
+        if (!command.also.empty()) tests.push_back(command.also);
+    }
+    return tests;
 }
 
 void ChatTextHandler::Colors() try { WriteSamples(1); } catch (...) {
