@@ -12,7 +12,9 @@
 #include "adapters/sim/Calls.h"
 #include "adapters/sim/Controls.h"
 #include "adapters/sim/View.h"
+#include "hud/HUDTargetHandler.h"
 #include "spells/SpellHandler.h"
+#include "stats/NetEchoHandler.h"
 #include "tests/support/Messages.h"
 #include "tests/support/PluginTest.h"
 
@@ -34,6 +36,7 @@ constexpr host::Id kHam = 0x102;
 constexpr host::Id kKit = 0x103;
 constexpr host::Id kNote = 0x104;
 constexpr host::Id kAle = 0x105;
+constexpr host::Id kSword = 0x106;
 
 // Spells that run out, one on the character and one that is new to the list.
 void Enchant(sim::Client& client) {
@@ -127,6 +130,48 @@ const EventRow kEvents[] = {
      [](sim::Client&) { Vars::ControlHandler->CorpsesAuto->SetChecked(true); }},
     {"TargetReleased", [](sim::Client& c) { c.ReleaseObject(kDrudge); },
      [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
+    {"WeaponSelected", [](sim::Client& c) { c.ObjectSelected(kSword); }},
+    {"WeaponIdentified", [](sim::Client& c) { c.ChangeObject(kSword, 2); },
+     [](sim::Client& c) {
+         c.object(kSword).HasIdData = 0;
+         c.ObjectSelected(kSword);
+         c.object(kSword).HasIdData = 1;
+     }},
+    {"TargetHurt",
+     [](sim::Client& c) {
+         const double ratio = Vars::NetEchoHandler->TargetHealthRatio / 2;
+         ServerSays(c, {{"Type", kEvent}, {"event", 0x1C0}, {"object", kDrudge}, {"health", ratio}});
+     },
+     [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
+    {"TargetIdentified",
+     [](sim::Client& c) {
+         Json message = {{"Type", kEvent}, {"event", 0xC9}, {"object", kDrudge}, {"success", 1},
+                         {"flags", 0x110}, {"health", 18},  {"healthMax", 36},   {"spellCount", 1}};
+         message["spells"] = Json::array({{{"spell", 2074}}});
+         ServerSays(c, message);
+     },
+     [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
+    {"DebuffLands",
+     [](sim::Client& c) {
+         ServerSays(c, {{"Type", kEffect}, {"object", kDrudge}, {"effect", 48}, {"speed", 0.8}});
+     },
+     [](sim::Client& c) {
+         c.LoadSpells(OMBREL_SOURCE_DIR "/resources/sim/spells.tsv");
+         c.ObjectSelected(kDrudge);
+     }},
+    {"DebuffRunsOut", [](sim::Client& c) { c.clock.Advance(1s); },
+     [](sim::Client& c) {
+         c.LoadSpells(OMBREL_SOURCE_DIR "/resources/sim/spells.tsv");
+         c.ObjectSelected(kDrudge);
+         Vars::HUDTargetHandler->TargetHud->AddDebuff(kDrudge, 15);  // for a minute
+         c.clock.Advance(59s);
+     }},
+    {"TitleFadesIn", [](sim::Client& c) { c.clock.Advance(25ms); },
+     [](sim::Client& c) {
+         c.ObjectSelected(kDrudge);
+         const host::Rect& card = Vars::HUDTargetHandler->TargetHud->frame.rect();
+         c.WindowMessage(512, card.left + 20, card.top + 40, 0, 0);
+     }},
     {"MouseMove", [](sim::Client& c) { c.WindowMessage(512, 20, 20, 0, 0); }},
     {"MouseDown", [](sim::Client& c) { c.WindowMessage(513, 20, 20, 0, 0); }},
     {"MouseUp", [](sim::Client& c) { c.WindowMessage(514, 20, 20, 0, 0); }},
@@ -229,6 +274,12 @@ struct Evening : GameSession {
         client.object(kCorpse).Coordinates = {12.4, -45.6};
         client.object(kDrudge).Name = "Drudge Slave";
         client.object(kDrudge).Type = host::object_class::kCreature;
+        client.object(kDrudge).HasIdData = 1;
+        client.object(kDrudge).Long = {{host::key::kIcon, 4150}, {25, 8}};
+        sim::Object& sword = Carry(kSword, "Silver Simi");
+        sword.Type = 1;
+        sword.HasIdData = 1;
+        sword.Long = {{107, 900}, {108, 1200}, {158, 1}, {159, 11}, {160, 325}};
         Carry(kHam, "Ham").Type = host::object_class::kFood;
         Carry(kKit, "Plentiful Healing Kit").Type = host::object_class::kHealingKit;
         Carry(kNote, "Trade Note (250,000)");

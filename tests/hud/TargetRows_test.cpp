@@ -217,7 +217,7 @@ TEST_F(TargetRows, NameTheBestSpells) {
     }
     Thing(4, "Ring");
     client.ObjectSelected(kTarget);
-    TellSpells(R"({"spell": 2108}, {"spell": 2581}, {"spell": 2582}, {"spell": 4019})", 4);
+    TellSpells({2108, 2581, 2582, 4019});
     EXPECT_THAT(canvas().Rows(), ElementsAre("Ring", "0p, 0bu", "Wk 0, Tk 0", "Major Focus, Epic Quickness"));
 
     client.ObjectSelected(kTarget);

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "adapters/sim/JsonMessage.h"
 #include "adapters/sim/Render.h"
 #include "hud/HUDTargetHandler.h"
+#include "tests/support/Messages.h"
 #include "tests/support/PluginTest.h"
 
 namespace ombrel::test {
@@ -45,26 +45,19 @@ protected:
         return drudge;
     }
 
-    // Messages of the server.
-    void Tell(const std::string& message) {
-        const sim::Json json = sim::Json::parse(message);
-        client.EchoServer(sim::JsonMessage(json, client.calls));
-    }
+    // What the server tells.
     void TellHealth(double ratio, host::Id id = kTarget) {
-        Tell(fmt::format(R"({{"Type": 63408, "event": 448, "object": {}, "health": {}}})", id, ratio));
+        ServerSays(client, {{"Type", kEvent}, {"event", 0x1C0}, {"object", id}, {"health", ratio}});
     }
     void TellIdentity(std::int32_t health, std::int32_t maximum) {
-        Tell(fmt::format(R"({{"Type": 63408, "event": 201, "object": {}, "success": 1, "flags": 256, "health": {},
-                              "healthMax": {}, "spellCount": 0}})",
-                         kTarget, health, maximum));
+        Json identity = Identity(0x100, {});
+        identity["health"] = health;
+        identity["healthMax"] = maximum;
+        ServerSays(client, identity);
     }
-    void TellSpells(std::string_view spells, std::int32_t count) {
-        Tell(fmt::format(R"({{"Type": 63408, "event": 201, "object": {}, "success": 1, "flags": 16, "spellCount": {},
-                              "spells": [{}]}})",
-                         kTarget, count, spells));
-    }
+    void TellSpells(const std::vector<std::int32_t>& spells) { ServerSays(client, Identity(0x10, spells)); }
     void TellEffect(std::int32_t code, host::Id id = kTarget) {
-        Tell(fmt::format(R"({{"Type": 63317, "object": {}, "effect": {}, "speed": 0.8}})", id, code));
+        ServerSays(client, {{"Type", kEffect}, {"object", id}, {"effect", code}, {"speed", 0.8}});
     }
 
     // What was drawn on the card's surface since the last look, its frame left out.
@@ -89,6 +82,14 @@ protected:
     std::vector<std::string> DrawnImages() { return Ends("DrawPortalImage image="); }
 
 private:
+    static Json Identity(std::int32_t flags, const std::vector<std::int32_t>& spells) {
+        Json list = Json::array();
+        for (const std::int32_t spell : spells) list.push_back({{"spell", spell}});
+        return {{"Type", kEvent}, {"event", 0xC9},  {"object", kTarget},
+                {"success", 1},   {"flags", flags}, {"spellCount", spells.size()},
+                {"spells", list}};
+    }
+
     std::vector<std::string> Ends(std::string_view mark) {
         std::vector<std::string> ends;
         for (const std::string& call : Drawn()) {
