@@ -27,6 +27,10 @@ void Measure(benchmark::State& state, std::int64_t items, const std::function<vo
     state.counters["allocations"] = static_cast<double>(Allocations() - before) / (rounds * static_cast<double>(items));
 }
 
+void MeasureProcessor(benchmark::State& state, std::int64_t items, const std::function<double()>& round) {
+    Measure(state, items, [&] { state.SetIterationTime(round()); });
+}
+
 bool Table::ReportContext(const Context&) { return true; }
 
 void Table::ReportRuns(const std::vector<Run>& runs) {

@@ -18,6 +18,9 @@ namespace ombrel::bench {
 // allocations for each.
 void Measure(benchmark::State& state, std::int64_t items, const std::function<void()>& round);
 
+// Likewise, where a round says itself how many seconds it took. For benchmarks with manual time.
+void MeasureProcessor(benchmark::State& state, std::int64_t items, const std::function<double()>& round);
+
 class Table final : public benchmark::BenchmarkReporter {
 public:
     bool ReportContext(const Context& context) override;

@@ -19,6 +19,7 @@ int main(int argc, char** argv) {
 
     ombrel::bench::AddSorting();
     ombrel::bench::AddChatRoad();
+    ombrel::bench::AddRules();
     ombrel::bench::AddMessages();
     ombrel::bench::AddSettings();
     ombrel::bench::AddSpells();

@@ -1,11 +1,10 @@
 // The road of a line as a whole: what rules it, where it is written, what becomes of the client's copy.
-#include <fstream>
-
 #include "chat/LogHandler.h"
 #include "core/APluginCore.h"
 #include "core/Hub.h"
 #include "core/text.h"
 #include "tests/chat/ChatTest.h"
+#include "tests/support/GameLines.h"
 
 namespace ombrel::test {
 namespace {
@@ -153,12 +152,12 @@ TEST_F(IncomingTextTest, EachWayOfRulingALineHasItsOutcome) {
 TEST_F(IncomingTextTest, AnAdministratorsLineIsWrittenOnceAndSoundsOnlyWhenARuleWroteIt) {
     EXPECT_THAT(Written("+Admin says, \"hi\"", 2), ElementsAre(Line{"+Admin says, \"hi\"", 2, 1}));
     EXPECT_THAT(shown, IsEmpty());
-    ColorRule("Open Chat In", "D", "Default", "Bell.wav");
+    ColorRule("Open Chat In", "D", "Default", "Gong.wav");
     EXPECT_THAT(Written("+Admin says, \"hi\"", 2), ElementsAre(Line{"+Admin says, \"hi\"", 2, 1}));
-    ColorRule("Open Chat In", "M", "Blue", "Bell.wav");
+    ColorRule("Open Chat In", "M", "Blue", "Gong.wav");
     EXPECT_THAT(Written("+Admin says, \"hi\"", 2),
                 ElementsAre(Line{"+Admin says, \"hi\"", 7, 1},
-                            Line{"<Ombrel> PlaySoundError: Bell.wav was not found in your install directory.", 6, 1}));
+                            Line{"<Ombrel> PlaySoundError: Gong.wav was not found in your install directory.", 6, 1}));
 }
 
 TEST_F(IncomingTextTest, OwnLinesGoToTheWindowsThatThePlayerChoseForThem) {
@@ -225,21 +224,15 @@ TEST_F(IncomingTextTest, TellsAreAnsweredWhileThePlayerIsAway) {
 }
 
 TEST_F(IncomingTextTest, TheLinesOfTheGamePassUnharmed) {
-    const std::string path = OMBREL_SOURCE_DIR "/../shared/data/chat-lines.tsv";
-    const char* const elsewhere = std::getenv("OMBREL_DATA");
-    std::ifstream file(elsewhere ? std::string(elsewhere) + "/chat-lines.tsv" : path);
-    if (!file) GTEST_SKIP() << "waits for real chat lines: set OMBREL_DATA to a folder with chat-lines.tsv";
+    const std::vector<GameLine> game_lines = GameLines();
+    if (game_lines.empty()) GTEST_SKIP() << kNoGameLines;
 
     RuleAll();
-    std::string line;
-    std::getline(file, line);
-    int count = 0;
-    for (; std::getline(file, line); ++count) {
-        const auto fields = Split(line, "\t");
-        chat().IncomingText(Replace(fields[1], "\\n", "\n"), std::stoi(std::string(fields[0])), 1, false, false);
-        ASSERT_THAT(TakeReports(), IsEmpty()) << line;
+    for (const GameLine& line : game_lines) {
+        chat().IncomingText(line.text, line.type, 1, false, false);
+        ASSERT_THAT(TakeReports(), IsEmpty()) << line.text;
     }
-    EXPECT_GT(count, 100);
+    EXPECT_GT(game_lines.size(), 100U);
 }
 
 }  // namespace

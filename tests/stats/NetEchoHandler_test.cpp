@@ -9,6 +9,7 @@
 #include "chat/ChatTextHandler.h"
 #include "hud/HUDTargetHandler.h"
 #include "stats/Statistics.h"
+#include "tests/support/GameLines.h"
 #include "tests/support/Messages.h"
 #include "tests/support/PluginTest.h"
 
@@ -140,6 +141,22 @@ TEST_F(NetEchoHandlerTest, TheLastKillIsRememberedWordForWord) {
     EXPECT_EQ(Vars::LastKillText, "You split Drudge Prowler apart!");
     client.ChatText("You split Drudge Prowler apart!\n", 0, 1);
     EXPECT_EQ(stats().Kills, 1);
+}
+
+TEST_F(NetEchoHandlerTest, EveryKillLineOfTheGameCounts) {
+    const std::vector<GameLine> game_lines = GameLines();
+    if (game_lines.empty()) GTEST_SKIP() << kNoGameLines;
+
+    std::int32_t kills = 0;
+    for (const GameLine& line : game_lines) {
+        if (line.note.find("the same text comes in event 0x1AD") == std::string::npos) continue;
+        Server(Json{{"Type", kEvent}, {"event", 0x1AD}, {"text", line.text}});
+        client.ChatText(line.text + "\n", line.type, 1);
+        client.ChatText("Bob says, \"gratz\"\n", 2, 1);
+        EXPECT_EQ(stats().Kills, ++kills) << line.text;
+    }
+    EXPECT_GT(kills, 20);
+    EXPECT_EQ(options().Kills->Text(), std::to_string(kills));
 }
 
 TEST_F(NetEchoHandlerTest, TheTargetsHealthFollowsItsIdentification) {
