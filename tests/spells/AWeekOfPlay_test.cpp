@@ -6,10 +6,6 @@
 #include <cstdlib>
 #include <map>
 
-#if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
-#endif
-
 #include "automation/EventQueue.h"
 #include "core/Hub.h"
 #include "spells/SpellFilterHandler.h"
@@ -17,13 +13,17 @@
 #include "stats/Statistics.h"
 #include "tests/spells/SpellTest.h"
 
+#ifdef __SANITIZE_ADDRESS__
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();  // GCC ships no header for it
+#endif
+
 namespace ombrel::test {
 namespace {
 
 constexpr int kDay = 86'400;
 
 std::size_t LiveBytes() {
-#if defined(__SANITIZE_ADDRESS__)
+#ifdef __SANITIZE_ADDRESS__
     return __sanitizer_get_current_allocated_bytes();
 #else
     const auto heap = mallinfo2();
