@@ -10,5 +10,6 @@ void AddMessages();  // server messages that don't matter
 void AddSettings();  // saving the settings, beside bare XML
 void AddSpells();    // a second of the spell lists
 void AddReplay();    // 100,000 lines through a session
+void AddDisplays();  // refreshes and mouse moves, beside drawing every line
 
 }  // namespace ombrel::bench

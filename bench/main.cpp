@@ -23,6 +23,7 @@ int main(int argc, char** argv) {
     ombrel::bench::AddMessages();
     ombrel::bench::AddSettings();
     ombrel::bench::AddSpells();
+    ombrel::bench::AddDisplays();
     ombrel::bench::AddReplay();
 
     ombrel::bench::Table table;
