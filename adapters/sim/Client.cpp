@@ -7,6 +7,7 @@
 #include "adapters/sim/Hooks.h"
 #include "adapters/sim/Hotkeys.h"
 #include "adapters/sim/Platform.h"
+#include "adapters/sim/Reactions.h"
 #include "adapters/sim/Render.h"
 #include "adapters/sim/Site.h"
 #include "adapters/sim/Spells.h"
@@ -21,7 +22,12 @@ constexpr std::int32_t kGameWindow = 1;  // its handle
 
 }  // namespace
 
-Client::Client() : platform_(std::make_unique<SimPlatform>(*this)), site_(std::make_unique<SimSite>(*this)) {}
+Client::Client()
+    : reactions_(std::make_unique<Reactions>(*this)),
+      platform_(std::make_unique<SimPlatform>(*this)),
+      site_(std::make_unique<SimSite>(*this)) {
+    reaction = [this](const Action& action) { reactions_->Answer(action); };
+}
 
 Client::~Client() {
     if (initialized_) Terminate();
@@ -82,7 +88,10 @@ void Client::ChangePortalMode(std::int32_t mode) {
     character_objects_.Raise(&host::CharacterStats::ChangePortalMode, mode);
 }
 
-void Client::Death(const std::string& text) { character_objects_.Raise(&host::CharacterStats::Death, text); }
+void Client::Death(const std::string& text) {
+    character_objects_.Raise(&host::CharacterStats::Death, text);
+    if (reacts) reactions_->Died();
+}
 
 bool Client::ChatText(const std::string& text, std::int32_t color, std::int32_t window) {
     bool eat = false;
@@ -109,7 +118,10 @@ bool Client::ChatClick(const std::string& text, host::Id id) {
     return eat;
 }
 
-void Client::ContainerOpened(host::Id id) { hooks_objects_.Raise(&host::ACHooks::ContainerOpened, id); }
+void Client::ContainerOpened(host::Id id) {
+    hooks_objects_.Raise(&host::ACHooks::ContainerOpened, id);
+    if (reacts) reactions_->Opened(id);
+}
 
 void Client::ObjectSelected(host::Id id) {
     hooks.CurrentSelection = id;
@@ -127,7 +139,10 @@ void Client::ChangeObject(host::Id id, std::int32_t change) {
     world_objects_.Raise(&host::World::ChangeObject, id, change);
 }
 
-void Client::MoveObject(host::Id id) { world_objects_.Raise(&host::World::MoveObject, id); }
+void Client::MoveObject(host::Id id) {
+    world_objects_.Raise(&host::World::MoveObject, id);
+    if (reacts) reactions_->Moved(id);
+}
 
 void Client::ReleaseObject(host::Id id) { world_objects_.Raise(&host::World::ReleaseObject, id); }
 

@@ -35,6 +35,7 @@ class SimSpells;
 class SimHotkeys;
 class SimRenderService;
 class SimView;
+class Reactions;
 
 // The character's sheet.
 struct Sheet {
@@ -132,11 +133,13 @@ public:
     const Object* FindObject(host::Id id) const { return objects_.Find(id).get(); }
     void RemoveObject(host::Id id) { objects_.Remove(id); }
     const std::vector<std::shared_ptr<Object>>& objects() const { return objects_.all(); }
+    bool Carries(const Object& object) const { return objects_.Carries(sheet.Character, object); }  // the character
 
     Clock clock;
     Calls calls;
 
-    // A world that reacts answers what the character does; otherwise nothing comes of it.
+    // A world that reacts answers what the character does; otherwise nothing comes of it. The answer is the simulated
+    // game's own, unless somebody puts another one here.
     bool reacts = false;
     std::function<void(const Action& action)> reaction;
 
@@ -214,6 +217,7 @@ private:
     Copies<SimHotkeys> hotkey_objects_;
     Copies<SimRenderService> render_objects_;
 
+    std::unique_ptr<Reactions> reactions_;
     std::unique_ptr<host::Platform> platform_;
     std::unique_ptr<host::PluginSite> site_;
     std::unique_ptr<APluginCore> plugin_;

@@ -42,7 +42,10 @@ Clock::~Clock() {
 
 void Clock::AdvanceTo(std::int64_t moment) {
     if (moment < now_) throw std::invalid_argument("the clock can't run backwards");
-    while (SimTimer* timer = NextDue(moment)) {
+    while (true) {
+        SimTimer* timer = NextDue(moment);
+        if (HappenNext(moment, timer)) continue;
+        if (!timer) break;
         now_ = std::max(now_, timer->due_);
         timer->due_ += timer->interval_;
         Fire(*timer);
@@ -53,11 +56,18 @@ void Clock::AdvanceTo(std::int64_t moment) {
 void Clock::Stall(milliseconds time) {
     if (time.count() < 0) throw std::invalid_argument("the clock can't run backwards");
     now_ += time.count();
-    while (SimTimer* timer = NextDue(now_)) {
+    while (true) {
+        SimTimer* timer = NextDue(now_);
+        if (HappenNext(now_, timer)) continue;
+        if (!timer) break;
         const std::int64_t waits = (now_ - timer->due_) / timer->interval_ + 1;
         timer->due_ += waits * timer->interval_;
         Fire(*timer);
     }
+}
+
+void Clock::After(milliseconds wait, std::function<void()> action) {
+    happenings_.push_back({now_ + wait.count(), ++starts_, std::move(action)});
 }
 
 std::vector<const SimTimer*> Clock::Running() const {
@@ -74,6 +84,18 @@ SimTimer* Clock::NextDue(std::int64_t moment) const {
         if (!next || std::tie(timer->due_, timer->started_) < std::tie(next->due_, next->started_)) next = timer;
     }
     return next;
+}
+
+bool Clock::HappenNext(std::int64_t moment, const SimTimer* timer) {
+    const auto order = [](const Happening& happening) { return std::tie(happening.due, happening.started); };
+    const auto next = std::ranges::min_element(happenings_, {}, order);
+    if (next == happenings_.end() || next->due > moment) return false;
+    if (timer && std::tie(timer->due_, timer->started_) < order(*next)) return false;
+    now_ = std::max(now_, next->due);
+    const auto action = std::move(next->action);
+    happenings_.erase(next);
+    action();
+    return true;
 }
 
 // The timer may go in its own timeout, so what is called is a copy.

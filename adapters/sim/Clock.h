@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -64,21 +65,34 @@ public:
     // would have ended without the hang.
     void Stall(milliseconds time);
 
+    // Has something happen once, when the wait is over: an answer of the server, say. It takes its turn among the
+    // timers, and a client that hangs hears of it late, as of them.
+    void After(milliseconds wait, std::function<void()> action);
+
     // Running timers, in the order of their last start.
     std::vector<const SimTimer*> Running() const;
 
 private:
     friend class SimTimer;
 
+    struct Happening {
+        std::int64_t due;
+        std::uint64_t started;
+        std::function<void()> action;
+    };
+
     // Of the timers that are due by then, the one that fires first.
     SimTimer* NextDue(std::int64_t moment) const;
     static void Fire(SimTimer& timer);
+    // Lets happen what is due by then, and before the timer where there is one. False when nothing is.
+    bool HappenNext(std::int64_t moment, const SimTimer* timer);
 
     std::int64_t now_ = 0;
     std::int64_t epoch_ = 1141560000000;  // 2006-03-05T12:00:00Z
     std::int64_t shift_ = 0;
     std::uint64_t starts_ = 0;
     std::vector<SimTimer*> timers_;
+    std::vector<Happening> happenings_;
 };
 
 }  // namespace ombrel::sim

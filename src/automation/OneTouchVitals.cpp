@@ -28,6 +28,9 @@ constexpr double kExhausted = 1000.0;  // more difficulty for a character out of
 constexpr double kExhaustedShare = 0.04;
 constexpr std::int32_t kFarthestFood = 999;
 
+// Figures of the game stay within 32 bits; a sum that doesn't is a failure, as any other.
+std::int32_t Difference(std::int32_t a, std::int32_t b) { return ToLong(static_cast<double>(a) - b); }
+
 double ShareOf(std::int32_t current, std::int32_t maximum) {
     if (maximum == 0) throw Failure(failure::kDivisionByZero);
     return static_cast<double>(current) / maximum;
@@ -53,7 +56,7 @@ Kit ReadKit(const host::WorldObject& item, std::int32_t skill, double difficulty
     kit.bonus = item.Long(kRestored, 0);
     kit.regen = item.Double(kRegen, 0.0);
     kit.uses = item.Long(kUses, 0);
-    kit.chance = 1.0 - 1.0 / (1.0 + std::exp(0.03 * (skill + kit.bonus - difficulty)));
+    kit.chance = 1.0 - 1.0 / (1.0 + std::exp(0.03 * (static_cast<double>(skill) + kit.bonus - difficulty)));
     return kit;
 }
 
@@ -101,7 +104,7 @@ bool FilterHandler::UseFood(std::int32_t vital) try {
                                  : vital == host::vital::kStamina ? CharStats->Stamina()
                                                                   : CharStats->Mana();
     const std::int32_t maximum = CharStats->Vital(vital);
-    const std::int32_t needed = maximum - current;
+    const std::int32_t needed = Difference(maximum, current);
     if (Vars::DebugMode) wtcw_debug("Needed Vital: " + NumberText(needed));
     if (ShareOf(current, maximum) > ToShare(options.VitalsBlock->Text())) {
         wtcw_debug("Use Food Blocked due to high vital");
@@ -115,7 +118,7 @@ bool FilterHandler::UseFood(std::int32_t vital) try {
         if (!food->LongExists(kRestoredVital) || food->Long(kRestoredVital, 0) != vital) continue;
         const std::int32_t restored = food->Long(kRestored, 0);
         if (Vars::DebugMode) wtcw_debug(fmt::format("Food Match: {}, Restores: {}", food->Name(), restored));
-        const std::int32_t distance = std::abs(restored - needed);
+        const std::int32_t distance = ToLong(std::abs(static_cast<double>(restored) - needed));
         if (distance >= best_distance) continue;
         best_distance = distance;
         best = food->GUID();
@@ -136,7 +139,7 @@ bool FilterHandler::UseKit(bool fallback) try {
     const double multiplier = GetCombatMode() == kPeaceMode ? kPeaceDifficulty : kCombatDifficulty;
     const std::int32_t health = CharStats->Health();
     const std::int32_t maximum = CharStats->Vital(host::vital::kHealth);
-    const std::int32_t needed = maximum - health;
+    const std::int32_t needed = Difference(maximum, health);
     double difficulty = Round(needed * multiplier + 25.0);
     if (CharStats->Stamina() < Round(CharStats->Vital(host::vital::kStamina) * kExhaustedShare))
         difficulty += kExhausted;

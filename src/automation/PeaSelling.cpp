@@ -49,6 +49,13 @@ host::WorldIteratorPtr PackItems(host::World& world, std::string_view name) {
     return walk;
 }
 
+std::int32_t Pyreals(host::World& world) {
+    double sum = 0.0;
+    const auto walk = PackItems(world, "Pyreal");
+    while (const auto stack = walk->Next()) sum += StackOf(*stack);
+    return ToLong(sum);
+}
+
 template <class... Arguments>
 void Trace(fmt::format_string<Arguments...> text, Arguments&&... arguments) {
     if (Vars::DebugMode) wtcw_debug(std::string(kRule) + fmt::format(text, std::forward<Arguments>(arguments)...));
@@ -83,9 +90,7 @@ void FilterHandler::SellPeas() try {
         wtcw("No vendor is open.  Please open a vendor window.");
         return StopPeas();
     }
-    std::int32_t pyreals = 0;
-    const auto money = PackItems(*World, "Pyreal");
-    while (const auto stack = money->Next()) pyreals += StackOf(*stack);
+    const std::int32_t pyreals = Pyreals(*World);
     const double rate = vendor->SellRate();
     const double needed = kNotePrice - pyreals;
     if (sale_.state >= step::kBuyNote) {

@@ -100,6 +100,14 @@ void SaveLog(FlatXml& xml) {
     }
 }
 
+// What is known stands in the file already; after a second login it would stand there twice.
+void ForgetAll() {
+    Vars::CorpseHandler->Corpses.clear();
+    Vars::ControlHandler->SelectedCorpse = -1;
+    Vars::SpellHandler->ItemSpells.clear();
+    Vars::LogHandler->Log.clear();
+}
+
 // One row per kind of element, in the order of the file. `load` takes one element, `save` writes all of the kind.
 struct Kind {
     std::string_view name;
@@ -124,6 +132,7 @@ void ControlHandler::Data_Load(std::int32_t action) try {
         Data_Save();
         return;
     }
+    ForgetAll();
     const pugi::xml_node root = document.document_element();
     for (const pugi::xml_node& node : root.children()) {
         const auto* kind = std::ranges::find(kKinds, std::string_view(node.name()), &Kind::name);
