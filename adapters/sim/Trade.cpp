@@ -23,6 +23,9 @@ std::int64_t BurdenOf(const Object& thing, std::int32_t count) {
     return std::int64_t{Long(thing, property::kBurden)} * count / StackOf(thing);
 }
 
+// What a vendor pays, without the error of the short number; a hair above, so that a whole pyreal stays whole.
+double RateOf(const VendorState& vendor) { return std::round(vendor.SellRate * 1e6) / 1e6 + 1e-12; }
+
 std::int32_t FullStack(const Object& stack, std::int32_t fallback) {
     const std::int32_t most = Long(stack, host::key::kStackMaximum);
     return most > 0 ? most : fallback;
@@ -73,16 +76,14 @@ void Trade::BuyAll() {
 }
 
 void Trade::Sell(const std::vector<Entry>& list) {
-    const double rate = aftermath_.client.vendor.SellRate;
+    const double rate = RateOf(aftermath_.client.vendor);
     std::vector<Entry> sold;
     std::int64_t money = 0;
     for (const Entry& entry : list) {
         const Object* thing = aftermath_.Find(entry.id);
         if (!thing) continue;
         sold.push_back({entry.id, std::min(entry.count, StackOf(*thing))});
-        // The rate is a short number: a payment that misses a whole pyreal by its error is that pyreal.
-        money += static_cast<std::int64_t>(
-            std::floor(static_cast<double>(ValueOf(*thing, sold.back().count)) * rate + 0.01));
+        money += static_cast<std::int64_t>(std::floor(static_cast<double>(ValueOf(*thing, sold.back().count)) * rate));
     }
     if (!CanCarry(sold, money)) {
         aftermath_.client.StatusText("You are too encumbered to sell that!");

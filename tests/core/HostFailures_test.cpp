@@ -12,6 +12,8 @@
 #include "adapters/sim/Calls.h"
 #include "adapters/sim/Controls.h"
 #include "adapters/sim/View.h"
+#include "core/TimerHandler.h"
+#include "corpses/CorpseHandler.h"
 #include "hud/HUDTargetHandler.h"
 #include "spells/SpellHandler.h"
 #include "stats/NetEchoHandler.h"
@@ -37,6 +39,11 @@ constexpr host::Id kKit = 0x103;
 constexpr host::Id kNote = 0x104;
 constexpr host::Id kAle = 0x105;
 constexpr host::Id kSword = 0x106;
+constexpr host::Id kStone = 0x120;
+constexpr host::Id kRing = 0x121;
+constexpr host::Id kPeas = 0x122;
+constexpr host::Id kWare = 0x123;
+constexpr host::Id kOldNotes = 0x124;
 
 // Spells that run out, one on the character and one that is new to the list.
 void Enchant(sim::Client& client) {
@@ -50,6 +57,39 @@ void Enchant(sim::Client& client) {
 template <class Kind>
 Kind& View(sim::Client& client, const char* name) {
     return *client.view()->Get<Kind>(name);
+}
+
+// Something worn that lacks mana, and a stone that has some.
+void RunLow(sim::Client& c) {
+    sim::Object& ring = c.object(kRing);
+    ring.Name = "Ring";
+    ring.Long = {{sim::kWielderKey, c.sheet.Character}, {10, 1}, {107, 3}, {108, 900}};
+    ring.Double = {{5, -1.0}};
+    ring.LastIdTime = 2000000000;
+    sim::Object& stone = c.object(kStone);
+    stone.Name = "Mana Stone";
+    stone.Container = c.sheet.Character;
+    stone.HasIdData = 1;
+    stone.Long = {{107, 500}};
+}
+
+// A sale at one of its steps, by a character who has the price of a note.
+void OpenMarket(sim::Client& c, int step) {
+    c.object(kPeas).Name = "Pyreal Pea";
+    c.object(kPeas).Container = c.sheet.Character;
+    c.object(kPeas).Long = {{host::key::kStackCount, 100}};
+    c.object(kWare).Name = "Trade Note (250,000)";
+    c.object(kOldNotes).Name = "Trade Note (250,000)";
+    c.object(kOldNotes).Container = c.sheet.Character;
+    c.object(kOldNotes).Long = {{host::key::kStackCount, 1}, {host::key::kStackMaximum, 250}};
+    c.object(kDrudge).Name = "Pyreal";
+    c.object(kDrudge).Container = c.sheet.Character;
+    c.object(kDrudge).Long = {{host::key::kStackCount, 300000}};
+    c.vendor = {true, 0.9f, {kWare}};
+    Vars::FilterHandler->StartPeas();
+    for (int done = 1; done < step; ++done) Vars::FilterHandler->SellPeas();
+    c.CreateObject(kNote);
+    Vars::TimerHandler->StopSellingPeas();  // its steps are taken one by one
 }
 
 const EventRow kEvents[] = {
@@ -176,6 +216,44 @@ const EventRow kEvents[] = {
     {"MouseDown", [](sim::Client& c) { c.WindowMessage(513, 20, 20, 0, 0); }},
     {"MouseUp", [](sim::Client& c) { c.WindowMessage(514, 20, 20, 0, 0); }},
     {"Hotkey", [](sim::Client& c) { c.Hotkey("OM:OneKeyHeal"); }},
+    {"FoodKey", [](sim::Client& c) { c.Hotkey("OM:OneKeyHealth"); },
+     [](sim::Client& c) {
+         c.sheet.Health = 50;
+         c.object(kHam).Long = {{89, 2}, {90, 40}};
+     }},
+    {"SmartKey", [](sim::Client& c) { c.Hotkey("OM:OneKeySmartHeal"); },
+     [](sim::Client& c) {
+         c.sheet.Health = 50;
+         c.object(kHam).Long = {{89, 2}, {90, 40}};
+     }},
+    {"FillAskedFor", [](sim::Client& c) { c.ChatParser("/m fillmana"); }, [](sim::Client& c) { RunLow(c); }},
+    {"FillByALine", [](sim::Client& c) { c.ChatText("Your Ring is low on Mana.\n", 7, 0); },
+     [](sim::Client& c) {
+         RunLow(c);
+         Vars::ControlHandler->FillMana->SetChecked(true);
+     }},
+    {"ManaScanned", [](sim::Client&) { Vars::FilterHandler->WaitforScan_Timeout(); },
+     [](sim::Client& c) {
+         RunLow(c);
+         Vars::FilterHandler->Fill_Mana(true);
+     }},
+    {"StoneUsed", [](sim::Client&) { Vars::FilterHandler->UseCharge_Timeout(); },
+     [](sim::Client& c) {
+         RunLow(c);
+         Vars::FilterHandler->FindCHarge();
+     }},
+    {"PeasOffered", [](sim::Client& c) { c.ChatParser("/m sellpeas"); }},
+    {"PeasSelected", [](sim::Client&) { Vars::FilterHandler->SellPeas(); }, [](sim::Client& c) { OpenMarket(c, 1); }},
+    {"PeasSplit", [](sim::Client&) { Vars::FilterHandler->SellPeas(); }, [](sim::Client& c) { OpenMarket(c, 2); }},
+    {"PeasSold", [](sim::Client&) { Vars::FilterHandler->SellPeas(); }, [](sim::Client& c) { OpenMarket(c, 4); }},
+    {"NoteBought", [](sim::Client&) { Vars::FilterHandler->SellPeas(); }, [](sim::Client& c) { OpenMarket(c, 5); }},
+    {"NoteStacked", [](sim::Client&) { Vars::FilterHandler->SellPeas(); }, [](sim::Client& c) { OpenMarket(c, 7); }},
+    {"OpenedCorpseReleased", [](sim::Client& c) { c.ReleaseObject(kCorpse); },
+     [](sim::Client& c) {
+         Vars::ControlHandler->CorpsesAuto->SetChecked(true);
+         Vars::CorpseHandler->AddCorpsefromData(12.4, -45.6, 0, false, kCorpse, "");
+         c.ContainerOpened(kCorpse);
+     }},
     {"DeviceLost", [](sim::Client& c) { c.DeviceLost(); }},
     {"BuffsBeersAndGems", [](sim::Client& c) { c.clock.Advance(1s); },
      [](sim::Client& c) {
