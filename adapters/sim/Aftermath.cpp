@@ -1,6 +1,7 @@
 #include "adapters/sim/Aftermath.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace ombrel::sim {
@@ -16,6 +17,11 @@ double Double(const Object& object, std::int32_t key) {
 }
 
 std::int32_t StackOf(const Object& object) { return std::max(Long(object, host::key::kStackCount), 1); }
+
+std::int32_t Clamped(std::int64_t number) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(number, Limits::min(), Limits::max()));
+}
 
 std::string Grouped(std::int64_t number) {
     std::string text = std::to_string(number);
@@ -41,14 +47,25 @@ std::vector<Object*> Aftermath::Carried(std::string_view name) {
     return carried;
 }
 
-void Aftermath::Restore(std::int32_t vital, std::int32_t amount) {
+std::int32_t Aftermath::Current(std::int32_t vital) const {
     const Sheet& sheet = client.sheet;
-    const std::int32_t now = vital == host::vital::kHealth    ? sheet.Health
-                             : vital == host::vital::kStamina ? sheet.Stamina
-                                                              : sheet.Mana;
-    const auto maximum = sheet.Vital.find(vital);
-    const std::int32_t most = maximum == sheet.Vital.end() ? 0 : maximum->second;
-    client.ChangeVital(vital, std::clamp(now + amount, 0, std::max(now, most)));
+    return vital == host::vital::kHealth ? sheet.Health : vital == host::vital::kStamina ? sheet.Stamina : sheet.Mana;
+}
+
+std::int32_t Aftermath::Maximum(std::int32_t vital) const {
+    const auto maximum = client.sheet.Vital.find(vital);
+    return maximum == client.sheet.Vital.end() ? 0 : maximum->second;
+}
+
+std::int32_t Aftermath::Missing(std::int32_t vital) const {
+    return Clamped(std::max<std::int64_t>(std::int64_t{Maximum(vital)} - Current(vital), 0));
+}
+
+// What is above the maximum stays there.
+void Aftermath::Restore(std::int32_t vital, std::int32_t amount) {
+    const std::int64_t now = Current(vital);
+    const std::int64_t most = std::max<std::int64_t>({now, Maximum(vital), 0});
+    client.ChangeVital(vital, Clamped(std::clamp<std::int64_t>(now + amount, 0, most)));
 }
 
 void Aftermath::SetStack(Object& stack, std::int32_t count) {
@@ -88,8 +105,7 @@ void Aftermath::Resize(Object& stack, std::int32_t count) {
     const std::int64_t before = StackOf(stack);
     for (const std::int32_t key : {property::kValue, property::kBurden}) {
         const auto sum = stack.Long.find(key);
-        if (sum != stack.Long.end())
-            sum->second = static_cast<std::int32_t>(sum->second * std::int64_t{count} / before);
+        if (sum != stack.Long.end()) sum->second = Clamped(sum->second * std::int64_t{count} / before);
     }
     if (stack.Long.contains(host::key::kStackCount) || count > 1) stack.Long[host::key::kStackCount] = count;
 }

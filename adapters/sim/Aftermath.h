@@ -51,6 +51,7 @@ constexpr std::int32_t kMana = 4;
 std::int32_t Long(const Object& object, std::int32_t key);  // 0 for one that it lacks
 double Double(const Object& object, std::int32_t key);
 std::int32_t StackOf(const Object& object);  // 1 for what doesn't stack
+std::int32_t Clamped(std::int64_t number);   // the nearest that fits
 std::string Grouped(std::int64_t number);    // "12,450"
 
 class Aftermath {
@@ -70,6 +71,8 @@ public:
     Object* Find(host::Id id) { return client.FindObject(id) ? &client.object(id) : nullptr; }
     std::vector<Object*> Carried(std::string_view name = {});  // in the client's order, all without a name
 
+    std::int32_t Maximum(std::int32_t vital) const;
+    std::int32_t Missing(std::int32_t vital) const;  // not below 0
     void Restore(std::int32_t vital, std::int32_t amount);
 
     // A stack with another count, its value and burden with it; with none it goes.
@@ -80,6 +83,7 @@ public:
     void Vanish(host::Id id);
 
 private:
+    std::int32_t Current(std::int32_t vital) const;
     static void Resize(Object& stack, std::int32_t count);
 
     std::int32_t busy_ = 0;

@@ -72,7 +72,7 @@ std::string Deaths::TakeLoot(host::Id corpse) {
     if (sum >= 2) {
         std::int64_t open = sum / 2;
         lost.push_back(Grouped(open) + " Pyreals");
-        aftermath_.Copy(*money.front(), static_cast<std::int32_t>(open), corpse);
+        aftermath_.Copy(*money.front(), Clamped(open), corpse);
         for (Object* stack : money) {
             const auto taken = static_cast<std::int32_t>(std::min<std::int64_t>(open, StackOf(*stack)));
             open -= taken;
@@ -105,11 +105,12 @@ void Deaths::Return() {
     Client& client = aftermath_.client;
     Sheet& sheet = client.sheet;
     dying_ = false;
+    Object* self = aftermath_.Find(sheet.Character);
     for (const auto& object : client.objects()) {
-        if (object->Type == thing::kLifestone) client.object(sheet.Character).Coordinates = object->Coordinates;
+        if (self && object->Type == thing::kLifestone) self->Coordinates = object->Coordinates;
     }
     std::erase_if(client.enchantments, [](const ActiveEnchantment& spell) { return spell.ends.has_value(); });
-    sheet.Vitae = std::max(sheet.Vitae - kVitaePerDeath, kDeepestVitae);
+    sheet.Vitae = std::max(sheet.Vitae, kDeepestVitae + kVitaePerDeath) - kVitaePerDeath;
     client.ChangePortalMode(kLeaving);
     const auto maxima = sheet.Vital;
     for (const auto& [vital, maximum] : maxima)

@@ -10,6 +10,7 @@ namespace {
 
 constexpr milliseconds kMeal = 800ms;
 constexpr milliseconds kTreatment = 1200ms;
+constexpr double kLongestSpell = 1e6;  // seconds
 constexpr std::int32_t kHealingSkill = 21;
 constexpr std::int32_t kPeaceMode = 1;
 
@@ -42,17 +43,17 @@ void Healing::Eaten(Object& food) {
     if (const auto spell = client.spells.ByID(Long(food, property::kSpell)); spell && spell->ID != 0) {
         std::erase_if(client.enchantments,
                       [&](const ActiveEnchantment& active) { return active.SpellID == spell->ID; });
-        client.Enchant(spell->ID, spell->Duration, spell->Type);
-        client.ChangeEnchantments(0, {spell->ID, static_cast<std::int32_t>(spell->Duration), spell->Type});
+        const double seconds = std::clamp(spell->Duration, -1.0, kLongestSpell);
+        client.Enchant(spell->ID, seconds, spell->Type);
+        client.ChangeEnchantments(0, {spell->ID, static_cast<std::int32_t>(seconds), spell->Type});
         client.ChatText(fmt::format("{} casts {} on you\n", food.Name, spell->Name), 7, 0);
     }
     aftermath_.SetStack(food, StackOf(food) - 1);
 }
 
 void Healing::UseKit(host::Id kit) {
-    const Sheet& sheet = aftermath_.client.sheet;
-    if (sheet.Health >= sheet.Vital.at(host::vital::kHealth)) {
-        aftermath_.client.StatusText(sheet.Name + " is already at full health!");
+    if (aftermath_.Missing(host::vital::kHealth) == 0) {
+        aftermath_.client.StatusText(aftermath_.client.sheet.Name + " is already at full health!");
         return;
     }
     aftermath_.Occupy(kTreatment, [this, kit] {
@@ -65,19 +66,19 @@ void Healing::Heal(Object& kit) {
     const Sheet& sheet = aftermath_.client.sheet;
     const auto known = sheet.Skill.find(kHealingSkill);
     const std::int32_t skill = known == sheet.Skill.end() ? 0 : known->second;
-    const std::int32_t missing = sheet.Vital.at(host::vital::kHealth) - sheet.Health;
+    const std::int32_t missing = aftermath_.Missing(host::vital::kHealth);
     const double difficulty = missing * (aftermath_.client.hooks.CombatMode == kPeaceMode ? 2.0 : 2.6);
-    const double trained = skill + Long(kit, property::kRestored);
+    const double trained = static_cast<double>(skill) + Long(kit, property::kRestored);
     const double chance = 1.0 - 1.0 / (1.0 + std::exp(0.03 * (trained - difficulty)));
 
     const std::string name = kit.Name;
-    const std::int32_t uses = Long(kit, property::kUses) - 1;
+    const std::int32_t uses = std::max(Long(kit, property::kUses), 1) - 1;
     const bool healed = Draw() < chance;
     const double share = 0.2 + 0.3 * Draw();
-    const auto amount = static_cast<std::int32_t>(std::lround(skill * Double(kit, property::kRestoration) * share));
+    const double amount = std::round(skill * Double(kit, property::kRestoration) * share);
     kit.Long[property::kUses] = uses;
     if (healed) {
-        const std::int32_t points = std::min(amount, missing);
+        const auto points = static_cast<std::int32_t>(std::clamp<double>(amount, 0, missing));
         aftermath_.Restore(host::vital::kHealth, points);
         aftermath_.Restore(host::vital::kStamina, -std::min(points / 5, sheet.Stamina));
         aftermath_.Say(fmt::format("You heal yourself for {} Health points. {}", points, UsesText(name, uses)));

@@ -21,7 +21,8 @@ struct Share {
 std::vector<Share> Thirsty(Aftermath& aftermath) {
     std::vector<Share> shares;
     for (Object* item : aftermath.Carried()) {
-        const std::int32_t lacks = Long(*item, property::kMaximumMana) - Long(*item, property::kMana);
+        const std::int32_t lacks =
+            Clamped(std::int64_t{Long(*item, property::kMaximumMana)} - Long(*item, property::kMana));
         if (Long(*item, property::kWornOn) != 0 && lacks > 0) shares.push_back({item, lacks});
     }
     return shares;

@@ -19,7 +19,7 @@ void Split(Aftermath& aftermath, Object& pea) {
     for (const Content& content : kContents) {
         const auto stacks = aftermath.Carried(what + std::string(content.ending));
         if (stacks.empty()) continue;
-        aftermath.SetStack(*stacks.front(), StackOf(*stacks.front()) + content.count);
+        aftermath.SetStack(*stacks.front(), Clamped(std::int64_t{StackOf(*stacks.front())} + content.count));
         return aftermath.SetStack(pea, StackOf(pea) - 1);
     }
 }

@@ -12,6 +12,7 @@ constexpr milliseconds kMerge = 200ms;
 constexpr std::string_view kPyreal = "Pyreal";
 constexpr std::int32_t kFullPurse = 25000;  // pyreals in one stack
 constexpr std::int32_t kMostBurden = 3;     // times the capacity
+constexpr double kTill = 10'000'000;        // no vendor pays more at once
 constexpr double kNotePrice = 1.15;         // of the value, everywhere
 constexpr double kPrice = 1.35;
 
@@ -83,8 +84,10 @@ void Trade::Sell(const std::vector<Entry>& list) {
         const Object* thing = aftermath_.Find(entry.id);
         if (!thing) continue;
         sold.push_back({entry.id, std::min(entry.count, StackOf(*thing))});
-        money += static_cast<std::int64_t>(std::floor(static_cast<double>(ValueOf(*thing, sold.back().count)) * rate));
+        const double paid = std::floor(static_cast<double>(ValueOf(*thing, sold.back().count)) * rate);
+        money += static_cast<std::int64_t>(std::clamp(paid, 0.0, kTill));
     }
+    money = std::min(money, static_cast<std::int64_t>(kTill));
     if (!CanCarry(sold, money)) {
         aftermath_.client.StatusText("You are too encumbered to sell that!");
         return;
@@ -102,7 +105,8 @@ void Trade::Buy(const std::vector<Entry>& list) {
         const Object* ware = aftermath_.Find(entry.id);
         if (!ware) return;
         const double rate = ware->Type == thing::kTradeNote ? kNotePrice : kPrice;
-        price += static_cast<std::int64_t>(std::ceil(static_cast<double>(ValueOf(*ware, entry.count)) * rate - 0.01));
+        const double asked = std::ceil(static_cast<double>(ValueOf(*ware, entry.count)) * rate - 0.01);
+        price += static_cast<std::int64_t>(std::clamp(asked, 0.0, 1e12));
     }
     if (list.empty() || Money() < price) return;
     Pay(price);
