@@ -32,6 +32,7 @@ Client::Client()
 Client::~Client() {
     if (initialized_) Terminate();
     plugin_.reset();
+    guest_.reset();
 }
 
 void Client::Enchant(std::int32_t SpellID, double seconds, std::int32_t Family) {
@@ -48,19 +49,29 @@ void Client::Enchant(std::int32_t SpellID, double seconds, std::int32_t Family) 
 void Client::LoadSpells(const std::string& tsv_path) { spells = SpellTable::Load(tsv_path); }
 
 void Client::Start() {
-    if (!plugin_) plugin_ = std::make_unique<APluginCore>(*platform_);
+    if (!running()) {
+        if (make_guest)
+            guest_ = make_guest();
+        else
+            plugin_ = std::make_unique<APluginCore>(*platform_);
+    }
     initialized_ = true;
-    plugin_->IPlugin2_Initialize(*site_);
+    running()->IPlugin2_Initialize(*site_);
+}
+
+host::IPlugin2* Client::running() {
+    if (guest_) return guest_.get();
+    return plugin_.get();
 }
 
 void Client::Initialize() { Start(); }
 
 // The framework forgets the receivers of window messages when it ends its plug-ins.
 void Client::Terminate() {
-    if (!plugin_) return;
+    if (!running()) return;
     if (initialized_ && last_moment) last_moment();
     initialized_ = false;
-    plugin_->IPlugin2_Terminate();
+    running()->IPlugin2_Terminate();
     sink_ = nullptr;
 }
 
@@ -167,6 +178,11 @@ bool Client::Hotkey(const std::string& name) {
 void Client::DeviceLost() {
     if (screen && screen->DeviceLost) screen->DeviceLost();
     render_objects_.Raise(&host::RenderService::DeviceLost);
+}
+
+void Client::AddChatText(const std::string& text, std::int32_t color, std::int32_t window) {
+    if (guest_) guest_->AddChatText(text, color, window);
+    if (plugin_) plugin_->AddChatText(text, color, window);
 }
 
 // A line for the default window stands in the main one.

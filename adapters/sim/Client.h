@@ -87,6 +87,12 @@ struct SystemState {
     host::Point cursor;
 };
 
+// A plug-in from elsewhere, in the place of this program's own.
+class Guest : public host::IPlugin2 {
+public:
+    virtual void AddChatText(const std::string& text, std::int32_t color, std::int32_t window) = 0;
+};
+
 // Something that the plug-in had the character do.
 struct Action {
     Op operation = 0;
@@ -132,6 +138,7 @@ public:
     Object& object(host::Id id) { return objects_.Make(id); }  // at the end of the world's order when it is new
     const Object* FindObject(host::Id id) const { return objects_.Find(id).get(); }
     void RemoveObject(host::Id id) { objects_.Remove(id); }
+    std::shared_ptr<const Object> ShareObject(host::Id id) const { return objects_.Find(id); }
     const std::vector<std::shared_ptr<Object>>& objects() const { return objects_.all(); }
     bool Carries(const Object& object) const { return objects_.Carries(sheet.Character, object); }  // the character
 
@@ -149,8 +156,9 @@ public:
     void Initialize();  // once more, on the same object
     void Terminate();
     APluginCore* plugin() { return plugin_.get(); }
-    bool initialized() const { return initialized_; }  // and not terminated
-    SimView* view() { return view_; }                  // the options view, while the plug-in has one
+    bool initialized() const { return initialized_; }    // and not terminated
+    std::function<std::unique_ptr<Guest>()> make_guest;  // whom `Start` starts instead of this program's own plug-in
+    SimView* view() { return view_; }                    // the options view, while the plug-in has one
 
     // What a plug-in is given.
     host::PluginSite& site() { return *site_; }
@@ -180,6 +188,7 @@ public:
                        std::int32_t lParam);  // the cursor moves first
     bool Hotkey(const std::string& name);
     void DeviceLost();
+    void AddChatText(const std::string& text, std::int32_t color, std::int32_t window);  // of another plug-in
 
     // What a player reads: every line that reached a window, ours and the client's own. Window 1 is the main one.
     struct ChatLine {
@@ -203,6 +212,7 @@ private:
     friend class SimSite;
     friend class SimDecal;
 
+    host::IPlugin2* running();
     void Show(std::string_view text, std::int32_t color, std::int32_t window, bool from_plugin);
     void Act(const Action& action);
 
@@ -221,6 +231,7 @@ private:
     std::unique_ptr<host::Platform> platform_;
     std::unique_ptr<host::PluginSite> site_;
     std::unique_ptr<APluginCore> plugin_;
+    std::unique_ptr<Guest> guest_;
     bool initialized_ = false;
     host::IWindowsMessageSink* sink_ = nullptr;
     SimView* view_ = nullptr;

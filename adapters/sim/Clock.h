@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "host/Timer.h"
@@ -29,6 +30,7 @@ public:
     bool Running() const override;
 
     const std::string& name() const { return name_; }
+    void Rename(std::string name) { name_ = std::move(name); }
     std::int32_t interval() const { return interval_; }
 
 private:

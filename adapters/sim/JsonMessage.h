@@ -14,6 +14,8 @@ public:
     // `json` has a "Type".
     JsonMessage(const Json& json, Calls& calls) : json_(json), calls_(calls) {}
 
+    const Json& json() const { return json_; }
+
     std::int32_t Type() const override;
     std::int32_t Long(std::string_view field) const override;
     double Double(std::string_view field) const override;

@@ -5,7 +5,6 @@
 #include "adapters/sim/JsonMessage.h"
 #include "adapters/sim/SessionControls.h"
 #include "adapters/sim/View.h"
-#include "core/APluginCore.h"
 
 namespace ombrel::sim {
 namespace {
@@ -74,9 +73,7 @@ constexpr EventRow kEvents[] = {
     {"DeviceLost", [](Client& client, const Json&) { client.DeviceLost(); }},
     {"AddChatText",
      [](Client& client, const Json& record) {
-         if (APluginCore* plugin = client.plugin()) {
-             plugin->AddChatText(Text(record), Integer(record, "color"), Integer(record, "window"));
-         }
+         client.AddChatText(Text(record), Integer(record, "color"), Integer(record, "window"));
      }},
     {"Control",
      [](Client& client, const Json& record) {
