@@ -30,7 +30,7 @@ struct Habits {
     bool last_sink_first = false;      // raises events in the other order
     bool odd_arguments = false;        // gives arguments of events in the rarer of their forms
     bool absent_fields_empty = false;  // answers for a field that a message lacks with nothing instead of an error
-    std::set<std::string, std::less<>> missing_hooks;  // members of the hooks that this client can't serve
+    std::set<std::string, std::less<>> missing_hooks{};  // members of the hooks that this client can't serve
 };
 Habits& TheHabits();
 

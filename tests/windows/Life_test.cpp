@@ -21,6 +21,8 @@ protected:
     LifeTest() { TheLedger().Reset(); }
     ~LifeTest() override { TheHabits() = {}; }
 
+    const Apartment apartment_;
+
     // Nothing is left of the plug-in.
     static void ExpectGone() {
         EXPECT_EQ(TheLedger().Complaints(), "");
