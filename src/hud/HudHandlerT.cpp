@@ -73,7 +73,7 @@ HudHandlerT::~HudHandlerT() { wtcw_debug("HUD Handler Terminate"); }
 
 bool HudHandlerT::Measure() {
     const std::int32_t width = std::max(frame.TextWidth(measured_ ? kMeasure : kFirstMeasure), kNarrowest);
-    const std::int32_t row = frame.FontSize() + HudFrame::kSpacer;
+    const std::int32_t row = TextHeight() + HudFrame::kSpacer;
     const std::int32_t height =
         HudFrame::kTitleHeight + HudFrame::kSpacer + HudFrame::kBorder + static_cast<std::int32_t>(kRows) * row;
     measured_ = true;
@@ -81,6 +81,9 @@ bool HudHandlerT::Measure() {
     frame.SetSize(width, height);
     return true;
 }
+
+// A hand-edited settings file may ask for any size; the card grows to more than a screen and no further.
+std::int32_t HudHandlerT::TextHeight() const { return std::clamp(frame.FontSize(), 0, 10'000); }
 
 bool HudHandlerT::CanDraw() const { return !Vars::HudFailed && frame.Enabled() && frame.view(); }
 

@@ -82,6 +82,7 @@ private:
     };
 
     bool Measure();
+    std::int32_t TextHeight() const;
     bool CanDraw() const;
     void DrawAlone(std::string_view procedure);
 

@@ -41,14 +41,14 @@ bool IsEmpty(const auto& strip) {
 // In the midst of the first row, as far as the title bar lets it.
 host::Rect HudHandlerT::IconRect() const {
     const std::int32_t left = kBorder + kSpacer;
-    const std::int32_t lower = ToLong(RoundDown((frame.FontSize() - frame.IconSize) / 2.0));
+    const std::int32_t lower = ToLong(RoundDown((TextHeight() - frame.IconSize) / 2.0));
     const std::int32_t top = std::max(kTitleHeight, kTitleHeight + kSpacer + lower);
     return {left, top, left + frame.IconSize, top + frame.IconSize};
 }
 
 // Rows beside the icon begin behind it: the name, and with a small font the row below.
 host::Rect HudHandlerT::RowRect(std::size_t row) const {
-    const std::int32_t height = frame.FontSize() + kSpacer;
+    const std::int32_t height = TextHeight() + kSpacer;
     const std::int32_t top = kTitleHeight + kSpacer + static_cast<std::int32_t>(row) * height;
     const host::Rect icon = IconRect();
     const std::int32_t left = top < icon.bottom ? icon.right + 3 * kSpacer : icon.left;
@@ -58,7 +58,7 @@ host::Rect HudHandlerT::RowRect(std::size_t row) const {
 // The debuffs stand at the bottom: icons, and below each its minutes.
 host::Rect HudHandlerT::StripRect() const {
     const std::int32_t bottom = frame.height() - kBorder;
-    return {kBorder, bottom - frame.FontSize() - kSpacer - frame.IconSize, frame.width() - kBorder, bottom};
+    return {kBorder, bottom - TextHeight() - kSpacer - frame.IconSize, frame.width() - kBorder, bottom};
 }
 
 // Painting.
@@ -158,7 +158,7 @@ void HudHandlerT::PaintStrip(host::HudView& view) const {
             if (cell.icon != 0)
                 view.DrawPortalImage(cell.icon,
                                      {icon_left, strip.top, icon_left + frame.IconSize, strip.top + frame.IconSize});
-            frame.WriteText(view, {left, text_top, left + width, text_top + frame.FontSize()},
+            frame.WriteText(view, {left, text_top, left + width, text_top + TextHeight()},
                             ConvertColor(kWhite, kOpaque), GetHUDOutlineColor(kWhite), kCentred,
                             NumberText(cell.minutes));
         }

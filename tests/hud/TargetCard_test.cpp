@@ -56,6 +56,12 @@ TEST_F(TargetCardTest, ChangesItsSizeWithTheFont) {
         EXPECT_EQ(frame().height(), 17 + 6 * (size + 1));
         EXPECT_EQ(static_cast<sim::SimHudView*>(frame().view())->region(), frame().rect());
     }
+    for (const std::int32_t size : {INT32_MAX, INT32_MIN, 0}) {
+        frame().SetFontSize(size);
+        EXPECT_GE(frame().height(), 17) << size;
+        EXPECT_LT(frame().height(), 100'000) << size;
+    }
+    frame().SetFontSize(24);
     Forget();
     frame().SetFontSize(24);
     EXPECT_THAT(CallsOf("HudViewCreate"), IsEmpty()) << "the size is the same";
