@@ -220,6 +220,22 @@ TEST_F(PlayControlsTest, AMissingSoundIsToldOfAndLeavesTheVitalWithoutOne) {
     EXPECT_THAT(CallsOf("SoundPlay"), SizeIs(1));
 }
 
+class NoSoundCardTest : public ViewTest {};
+
+TEST_F(NoSoundCardTest, EachAlarmSaysSoOnceAndThePlayerPlaysOnInSilence) {
+    HaveSound("Loop/Bell.wav");
+    client.calls.Fail(sim::FindOperation("Platform.DirectSoundCreate").value(), 3, 5, "no card");
+    LogIn();
+    EXPECT_THAT(TakeReports(), SizeIs(3));
+    Pick("Util_cboVitalHealthSound", "Bell.wav");
+    Enter("Util_txtVitalHealthPer", "50%");
+    Check("Util_checkVitalHealthOn", true);
+    client.ChangeVital(2, 1);
+    client.ChangeVital(2, 100);
+    EXPECT_THAT(CallsOf("Sound"), IsEmpty());
+    EXPECT_EQ(Setting("Vital_Alarm", "healthsound"), "Bell.wav");
+}
+
 TEST_F(PlayControlsTest, SettingsAreReloadedAndBecomeTheDefaults) {
     Enter("Start_Level", "77");
     options().StartLevel->SetText("1");  // nobody has saved this
