@@ -110,8 +110,10 @@ void DrawPortalImage(cairo_t* pen, std::int32_t image, const host::Rect& rect) {
     cairo_save(pen);
     cairo_rectangle(pen, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top);
     cairo_clip(pen);
-    DrawTile(pen, image - kBase, rect);
-    DrawNumber(pen, image - kBase, rect);
+    // Any number may come; one below the base wraps.
+    const auto number = static_cast<std::int32_t>(static_cast<std::uint32_t>(image) - std::uint32_t{kBase});
+    DrawTile(pen, number, rect);
+    DrawNumber(pen, number, rect);
     cairo_restore(pen);
 }
 
