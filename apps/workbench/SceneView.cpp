@@ -56,7 +56,7 @@ void SceneView::Paint() {
 void SceneView::PassMouse(ImVec2 at) {
     const ImGuiIO& io = ImGui::GetIO();
     const bool held = ImGui::IsItemActive();
-    if (!game_.in_world() || (!ImGui::IsItemHovered() && !held)) return;
+    if (!game_.in_world() || (!ImGui::IsItemHovered() && !held && !pressed_)) return;
     const host::Rect& region = game_.client().hooks.Region3D;
     const float scale = static_cast<float>(region.right - region.left) / static_cast<float>(std::max(1, width_));
     const int x = region.left + static_cast<int>((io.MousePos.x - at.x) * scale);

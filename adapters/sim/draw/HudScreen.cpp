@@ -19,6 +19,12 @@ constexpr std::int32_t kCentred = 1;
 // Surfaces are as large as a screen at most: what is wider is cut.
 constexpr std::int32_t kLargest = 4096;
 
+// Any rectangle may come; what lies far outside of every surface need not be told apart.
+host::Rect Within(const host::Rect& rect) {
+    const auto near = [](std::int32_t place) { return std::clamp(place, -4 * kLargest, 4 * kLargest); };
+    return {near(rect.left), near(rect.top), near(rect.right), near(rect.bottom)};
+}
+
 std::int32_t Size(std::int32_t low, std::int32_t high) {
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(std::int64_t{high} - low, 1, kLargest));
 }
@@ -42,19 +48,21 @@ public:
 
     void BeginRender(bool) override { rendering_ = true; }
 
-    void Clear(const host::Rect& rect) override { Set(rect, 0); }
-    void Fill(const host::Rect& rect, std::int32_t color) override { Set(rect, static_cast<std::uint32_t>(color)); }
+    void Clear(const host::Rect& rect) override { Set(Within(rect), 0); }
+    void Fill(const host::Rect& rect, std::int32_t color) override {
+        Set(Within(rect), static_cast<std::uint32_t>(color));
+    }
 
     void BeginText(std::string_view face, std::int32_t height, std::int32_t weight, bool italic) override {
         font_ = HudFont{std::string(face), height, weight >= kBold, italic};
     }
     void DrawText(const host::Rect& rect, std::int32_t color, std::int32_t format, std::string_view text) override {
         if (!rendering_ || !font_) return;
-        DrawHudText(pen_.get(), rect, text, *font_, format == kCentred ? HudAlign::kCentred : HudAlign::kLeft,
+        DrawHudText(pen_.get(), Within(rect), text, *font_, format == kCentred ? HudAlign::kCentred : HudAlign::kLeft,
                     static_cast<std::uint32_t>(color));
     }
     void DrawPortalImage(std::int32_t image, const host::Rect& rect) override {
-        if (rendering_) sim::DrawPortalImage(pen_.get(), image, rect);
+        if (rendering_) sim::DrawPortalImage(pen_.get(), image, Within(rect));
     }
     void EndText() override { font_.reset(); }
     void EndRender() override { rendering_ = false; }
