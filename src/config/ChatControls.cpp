@@ -20,7 +20,6 @@ namespace {
 
 // Columns of Chat_Color.
 namespace color_list {
-constexpr std::int32_t kName = 1;
 constexpr std::int32_t kWindow = 2;
 constexpr std::int32_t kMarker = 3;
 constexpr std::int32_t kSound = 4;

@@ -48,7 +48,7 @@ protected:
 std::size_t Taken() { return mallinfo2().uordblks; }
 
 TEST_F(LongChat, AHundredThousandLinesAreLoggedInOrderAndLeaveNothingBehind) {
-    if (!std::getenv("OMBREL_LONG")) GTEST_SKIP() << "takes long: OMBREL_LONG=1 runs it";
+    if (!std::getenv("OMBREL_LONG")) GTEST_SKIP() << "waits for OMBREL_LONG=1: it takes long";
     LogAllTo("long");
     CustomRule("*number 7*", "M", "All", "Red", "[]Sevens are lucky.");
     FilterWord("darn", "Whole", "Replace");
@@ -96,7 +96,7 @@ std::size_t StackOf(const std::function<void()>& run) {
 }
 
 TEST_F(LongChat, ARuleThatFeedsItselfStaysFarFromTheEndOfTheStack) {
-    if (kInstrumented) GTEST_SKIP() << "the sanitizer's frames are many times as large";
+    if (kInstrumented) GTEST_SKIP() << "waits for a build without sanitizers, whose frames are many times as large";
     options().ChatLogEnable->SetChecked(true);
     LogAllTo("deep");
     const auto sixty_four = [] {

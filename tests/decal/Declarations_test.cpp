@@ -160,7 +160,9 @@ TEST(Declarations, GiveEveryInterfaceAnIdOfItsOwnAndEveryMemberASlotOfItsOwn) {
 
 TEST(Declarations, AgreeWithTheFrameworksTables) {
     const auto path = FindTables();
-    if (!path) GTEST_SKIP() << "the framework's tables are not at hand";
+    if (!path)
+        GTEST_SKIP()
+            << "waits for the framework's tables: reference/framework-interfaces.jsonl in a folder beside the checkout";
     const Tables tables = ReadTables(*path);
 
     int compared = 0;

@@ -102,7 +102,7 @@ TEST_F(Program, RefusesAWrongCommandLineInOneLine) {
 }
 
 TEST_F(Program, FailsWhereItsOutputCannotBeWritten) {
-    if (!fs::exists("/dev/full")) GTEST_SKIP() << "needs /dev/full, a file on a full disk";
+    if (!fs::exists("/dev/full")) GTEST_SKIP() << "waits for a machine with /dev/full, a file on a full disk";
     EXPECT_EQ(Run("--calls /dev/full " + kExample), 1);
     EXPECT_EQ(std::count(err.begin(), err.end(), '\n'), 1) << err;
 }
