@@ -137,7 +137,7 @@ void FilterHandler::FindCHarge() try {
 void FilterHandler::UseCharge_Timeout() try {
     const host::Id stone = mana_fill_.stone;
     if (Vars::DebugMode) wtcw_debug("Attempting to use stone " + NumberText(stone));
-    const auto item = World->Object(stone);
+    const auto item = ItemExists(stone) ? World->Object(stone) : nullptr;
     if (!item || item->HasIdData() == 0 || item->Long(kMana, 0) <= 0) return UseCharge->Stop();
     wtcw_debug("Stone valid");
     ApplyItem(stone, GetMyCharGUID());

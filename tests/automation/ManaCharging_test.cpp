@@ -142,6 +142,11 @@ TEST_F(ManaTest, AStoneThatIsGoneOrUnknownIsNotUsed) {
     Advance(1s);
     EXPECT_FALSE(filter().UseCharge->Running());
     client.object(3).HasIdData = 1;
+    client.object(3).valid = false;  // the client has dropped it, the world's record stands
+    filter().FindCHarge();
+    Advance(1s);
+    EXPECT_FALSE(filter().UseCharge->Running());
+    client.object(3).valid = true;
     filter().FindCHarge();
     client.RemoveObject(3);
     Advance(1s);
