@@ -158,12 +158,12 @@ void FilterHandler::SetIdleTime(double seconds) {
     Trapped("SetIdleTime", [&] { ACHooks->SetIdleTime(seconds); });
 }
 
-// Below 1 the "0" stands before whatever the rounding leaves: 0.04 is "00", and 0.97 is "01".
+// Below 1 a "0" stands before what the rounding leaves, be it whole too: 0.04 is "00", and 0.97 is "01".
 std::string FilterHandler::FormatCoord(double value) try {
     if (value == 0.0) return "0.0";
     const double rounded = Round(value, 1);
     std::string text = NumberText(rounded);
-    if (value < 1.0) return "0" + text;
+    if (value < 1.0) return text.starts_with("0.") ? text : "0" + text;
     if (rounded == Round(value)) text += ".0";
     return text;
 } catch (...) {

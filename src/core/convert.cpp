@@ -202,7 +202,7 @@ std::string DecimalText(const Decimal& number, int most_digits) {
         return text + fmt::format("E{}{:02}", exponent < 0 ? '-' : '+', std::abs(exponent));
     }
     if (number.point <= 0)
-        return text + "." + std::string(static_cast<std::size_t>(-number.point), '0') + number.digits;
+        return text + "0." + std::string(static_cast<std::size_t>(-number.point), '0') + number.digits;
     if (number.point >= count)
         return text + number.digits + std::string(static_cast<std::size_t>(number.point - count), '0');
     const auto point = static_cast<std::size_t>(number.point);

@@ -19,7 +19,7 @@ std::string WithoutPercent(std::string_view text);  // a percentage may have its
 double ToShare(std::string_view percent);           // "50%" or "50" is 0.5
 
 std::string_view BoolText(bool value);  // "True" or "False"
-std::string NumberText(double value);   // shortest form with up to 15 digits; below 1 without the leading zero
+std::string NumberText(double value);   // shortest form with up to 15 digits
 std::string NumberText(float value);    // up to 7 digits
 std::string NumberText(std::int32_t value);
 

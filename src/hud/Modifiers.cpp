@@ -24,16 +24,9 @@ std::string WithDefenses(const Reading& reading, std::string first) {
 
 }  // namespace
 
-std::string FigureText(double value) {
-    std::string text = NumberText(value);
-    if (text.starts_with('.')) return "0" + text;
-    if (text.starts_with("-.")) return "-0" + text.substr(1);
-    return text;
-}
+std::string PercentText(double value) { return NumberText(Round(value * 100)); }
 
-std::string PercentText(double value) { return FigureText(Round(value * 100)); }
-
-std::string BonusText(double factor) { return factor >= 0 ? FigureText(Round((factor - 1) * 100, 1)) : std::string(); }
+std::string BonusText(double factor) { return factor >= 0 ? NumberText(Round((factor - 1) * 100, 1)) : std::string(); }
 
 std::string ModifiersText(const Reading& reading) {
     return WithDefenses(reading, Bonus(reading, double_key::kAttackBonus));

@@ -7,7 +7,6 @@
 
 namespace ombrel::target {
 
-std::string FigureText(double value);   // with up to 15 digits, and a 0 before the point
 std::string PercentText(double value);  // a share in whole percent, 2.35 as "235"
 
 // What a factor adds, in percent with at most one decimal: 1.085 as "8.5". Empty for a negative factor, by which the

@@ -80,7 +80,7 @@ std::string Uses(Reading& reading) {
 std::string Damage(Reading& reading) {
     const std::int32_t maximum = reading.Long(key::kMaximumDamage);
     const double minimum = Round((1 - reading.Double(double_key::kVariance)) * maximum, 2);
-    return fmt::format("{}-{}{}, {}", FigureText(minimum), maximum, ModifiersText(reading), Tinkering(reading));
+    return fmt::format("{}-{}{}, {}", NumberText(minimum), maximum, ModifiersText(reading), Tinkering(reading));
 }
 
 std::string MissileDamage(Reading& reading) {
@@ -165,7 +165,7 @@ std::string Healing(Reading& reading) {
 }
 
 std::string Salvage(Reading& reading) {
-    return fmt::format("Wk {}, From {}", FigureText(Round(reading.Double(double_key::kSalvageWorkmanship))),
+    return fmt::format("Wk {}, From {}", NumberText(Round(reading.Double(double_key::kSalvageWorkmanship))),
                        reading.Long(key::kSalvagedItems));
 }
 

@@ -23,15 +23,6 @@ constexpr std::int32_t kLastExported = 5000;
 constexpr std::int32_t kDebuffFlags[] = {17,  19,  24,  26,  8337, 8346, 9361, 1169, 128, 130,
                                          131, 144, 145, 146, 147,  152,  153,  154,  155, 158};
 
-// A number with a zero before the point, which most texts of the plug-in leave out.
-template <class Float>
-std::string FloatText(Float value) {
-    std::string text = NumberText(value);
-    const std::size_t first = text.starts_with('-') ? 1 : 0;
-    if (text[first] == '.') text.insert(first, 1, '0');
-    return text;
-}
-
 // A column of the export: its head and its text.
 struct ExportColumn {
     std::string_view name;
@@ -46,19 +37,19 @@ constexpr ExportColumn kExport[] = {
     {"Icon", [](const host::Spell& spell) { return NumberText(spell.Icon()); }},
     {"School", [](const host::Spell& spell) { return NumberText(spell.School()); }},
     {"Type", [](const host::Spell& spell) { return NumberText(spell.Type()); }},
-    {"Duration", [](const host::Spell& spell) { return FloatText(spell.Duration()); }},
+    {"Duration", [](const host::Spell& spell) { return NumberText(spell.Duration()); }},
     {"Effect", [](const host::Spell& spell) { return NumberText(spell.Effect()); }},
     {"EffectOnCaster", [](const host::Spell& spell) { return NumberText(spell.EffectOnCaster()); }},
     {"EffectOnTarget", [](const host::Spell& spell) { return NumberText(spell.EffectOnTarget()); }},
-    {"Speed", [](const host::Spell& spell) { return FloatText(spell.Speed()); }},
+    {"Speed", [](const host::Spell& spell) { return NumberText(spell.Speed()); }},
     {"Version", [](const host::Spell& spell) { return NumberText(spell.Version()); }},
     {"Flags", [](const host::Spell& spell) { return NumberText(spell.Flags()); }},
     {"SortOrder", [](const host::Spell& spell) { return NumberText(spell.SortOrder()); }},
     {"TargetMask", [](const host::Spell& spell) { return NumberText(spell.TargetMask()); }},
     {"ComponentCount", [](const host::Spell& spell) { return NumberText(spell.ComponentCount()); }},
     {"ManaCost", [](const host::Spell& spell) { return NumberText(spell.ManaCost()); }},
-    {"RangeBase", [](const host::Spell& spell) { return FloatText(spell.RangeBase()); }},
-    {"RangeModifier", [](const host::Spell& spell) { return FloatText(spell.RangeModifier()); }},
+    {"RangeBase", [](const host::Spell& spell) { return NumberText(spell.RangeBase()); }},
+    {"RangeModifier", [](const host::Spell& spell) { return NumberText(spell.RangeModifier()); }},
     {"Researchable", [](const host::Spell& spell) { return std::string(BoolText(spell.Researchable())); }},
 };
 

@@ -59,7 +59,7 @@ TEST_F(DataTest, TheFirstLoginLeavesAnEmptyFileWithoutAWord) {
 TEST_F(DataTest, WhatWasLearnedComesBack) {
     const std::string text =
         "<Ombrel>\r\t<Global enabled=\"True\"/>\r\t"
-        "<Corpse ns=\"-.5\" ew=\"12.3\" time=\"1141570000\" dungeon=\"False\" guid=\"-2147480000\" data=\"Two "
+        "<Corpse ns=\"-0.5\" ew=\"12.3\" time=\"1141570000\" dungeon=\"False\" guid=\"-2147480000\" data=\"Two "
         "rings.\"/>\r\t"
         "<Item_Spell id=\"37\" remaining=\"100\" target=\"your armor.\"/>\r\t"
         "<Log message=\"Tom tells you, &quot;a&amp;b&quot;\" type=\"3\" color=\"3\" tag=\"2\" date=\"1141560000\"/>\r\t"

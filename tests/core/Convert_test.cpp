@@ -71,12 +71,12 @@ TEST(Convert, WritesNumbersInTheirShortestForm) {
         {-0.0, "0"},
         {40.0, "40"},
         {-12.25, "-12.25"},
-        {0.5, ".5"},
-        {-0.5, "-.5"},
-        {0.05, ".05"},
-        {0.1 + 0.2, ".3"},
-        {1.0 / 3.0, ".333333333333333"},
-        {2.0 / 3.0, ".666666666666667"},
+        {0.5, "0.5"},
+        {-0.5, "-0.5"},
+        {0.05, "0.05"},
+        {0.1 + 0.2, "0.3"},
+        {1.0 / 3.0, "0.333333333333333"},
+        {2.0 / 3.0, "0.666666666666667"},
         {100000.0 / 3.0, "33333.3333333333"},
         {999999999999999.0, "999999999999999"},
         {1e15, "1E+15"},
@@ -87,7 +87,7 @@ TEST(Convert, WritesNumbersInTheirShortestForm) {
         {1e300, "1E+300"},
     };
     for (const auto& [value, text] : cases) EXPECT_EQ(NumberText(value), text);
-    EXPECT_EQ(NumberText(0.1f), ".1");
+    EXPECT_EQ(NumberText(0.1f), "0.1");
     EXPECT_EQ(NumberText(12345.678f), "12345.68");
     EXPECT_EQ(NumberText(1e7f), "1E+07");
     EXPECT_EQ(NumberText(std::numeric_limits<std::int32_t>::min()), "-2147483648");

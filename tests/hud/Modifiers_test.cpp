@@ -25,13 +25,6 @@ TEST(PercentText, IsAWholeShare) {
     EXPECT_EQ(PercentText(0), "0");
 }
 
-TEST(FigureText, HasADigitBeforeThePoint) {
-    EXPECT_EQ(FigureText(0.25), "0.25");
-    EXPECT_EQ(FigureText(-0.5), "-0.5");
-    EXPECT_EQ(FigureText(22.1), "22.1");
-    EXPECT_EQ(FigureText(40), "40");
-}
-
 TEST(Modifiers, StandBehindAComma) {
     const auto text = [](std::string (*modifiers)(const Reading&), std::map<std::int32_t, double> properties) {
         sim::Calls calls;
