@@ -100,7 +100,8 @@ void SaveLog(FlatXml& xml) {
     }
 }
 
-// What is known stands in the file already; after a second login it would stand there twice.
+// What is known stands in the file already: after a second login it would stand there twice, or in the file of another
+// character.
 void ForgetAll() {
     Vars::CorpseHandler->Corpses.clear();
     Vars::ControlHandler->SelectedCorpse = -1;
@@ -126,13 +127,13 @@ constexpr Kind kKinds[] = {
 void ControlHandler::Data_Load(std::int32_t action) try {
     wtcw_debug(fmt::format("Data Load with action {}", action));
     const std::string path = DataFile();
+    ForgetAll();
     pugi::xml_document document;
     if (!files_.Open(path, document)) {
         GlobalSettings->SetChecked(false);
         Data_Save();
         return;
     }
-    ForgetAll();
     const pugi::xml_node root = document.document_element();
     for (const pugi::xml_node& node : root.children()) {
         const auto* kind = std::ranges::find(kKinds, std::string_view(node.name()), &Kind::name);

@@ -56,6 +56,13 @@ TEST_F(DataTest, TheFirstLoginLeavesAnEmptyFileWithoutAWord) {
     EXPECT_THAT(Texts(), IsEmpty());
 }
 
+TEST_F(DataTest, TheNextCharacterTakesNothingAlong) {
+    Load("<Ombrel><Corpse ns=\"1\"/><Item_Spell id=\"37\" remaining=\"100\" target=\"your armor.\"/><Log/></Ombrel>");
+    std::filesystem::remove(common_data.path() / kFile);
+    options().Data_Load(0);
+    EXPECT_EQ(Saved(), kEmpty);
+}
+
 TEST_F(DataTest, WhatWasLearnedComesBack) {
     const std::string text =
         "<Ombrel>\r\t<Global enabled=\"True\"/>\r\t"
