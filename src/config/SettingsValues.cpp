@@ -39,11 +39,11 @@ struct Load {
         (controls().*in.slider)->SetPosition(ToLong(WithoutPercent(text)));
     }
 
+    // An entry that this view lacks, as in a file that fits another view, leaves the choice as it was.
     void operator()(const InChoice& in) const {
         host::Choice& choice = *(controls().*in.control);
         const std::int32_t index = ToLong(value);
-        if (index < -1 || index >= choice.Count()) throw Failure(failure::kSubscript);
-        choice.SetSelected(index);
+        if (index >= -1 && index < choice.Count()) choice.SetSelected(index);
     }
 
     void operator()(const InSound& in) const {

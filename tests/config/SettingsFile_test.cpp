@@ -188,9 +188,10 @@ TEST_F(SettingsTest, ValuesThatNothingAnswersToAreFailures) {
         std::string_view report;
     };
     const Row rows[] = {
-        {"<HUD_Main timeout=\"8\"/>", "Error #9"},    {"<HUD_Target color=\"-2\"/>", "Error #9"},
-        {"<HUD_LIST name=\"Fame\"/>", "Error #9"},    {"<Clock_List enabled=\"True\"/>", "Error #9"},
-        {"<Location x=\"2147483647\"/>", "Error #6"}, {"<Location x=\"3000000000\"/>", "Error #6"},
+        {"<HUD_LIST name=\"Fame\"/>", "Error #9"},
+        {"<Clock_List enabled=\"True\"/>", "Error #9"},
+        {"<Location x=\"2147483647\"/>", "Error #6"},
+        {"<Location x=\"3000000000\"/>", "Error #6"},
     };
     for (const auto& row : rows) {
         Load(Document(row.elements));
@@ -199,6 +200,15 @@ TEST_F(SettingsTest, ValuesThatNothingAnswersToAreFailures) {
     }
     Load(Document("", "one"));
     EXPECT_THAT(TakeReports(), ElementsAre("Error #13 occured in 'Settings_Load 1' of class 'ControlHandler'"));
+}
+
+TEST_F(SettingsTest, AnEntryThatAChoiceLacksLeavesItAsItWas) {
+    Load(Document("<HUD_Main timeout=\"7\"/><HUD_Status lines=\"4\"/><HUD_Target color=\"2\"/>"));
+    Load(Document("<HUD_Main timeout=\"8\"/><HUD_Status lines=\"2147483647\"/><HUD_Target color=\"-2\"/>"));
+    EXPECT_EQ(Vars::SettingsState, 2);
+    EXPECT_EQ(Value("HUD_Main", "timeout"), "7");
+    EXPECT_EQ(Value("HUD_Status", "lines"), "4");
+    EXPECT_EQ(Value("HUD_Target", "color"), "2");
 }
 
 TEST_F(SettingsTest, FlagsMayBeNumbersAndTextsStayAsTheyAre) {
