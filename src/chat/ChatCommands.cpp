@@ -35,8 +35,8 @@ struct Command {
     std::string_view also = {};  // another form of the test
 };
 
-std::string Location() { return Vars::FilterHandler->GetCharCoords(); }
-std::string Corpse() { return Vars::CorpseHandler->GetCorpse(); }
+std::string Location() { return "My Location: " + Vars::FilterHandler->GetCharCoords(); }
+std::string Corpse() { return "My Corpse Location: " + Vars::CorpseHandler->GetCorpse(); }
 
 std::string Experience() {
     const ControlHandler& controls = *Vars::ControlHandler;
@@ -51,9 +51,6 @@ std::string LevelReport() {
                        NumberText(Vars::FilterHandler->GetMyCharLevel() + 1.0),
                        NumberText(Vars::Statistics->BarPercent), Vars::Statistics->TimetoLevel());
 }
-
-std::string OwnLocation() { return "My Location: " + Location(); }
-std::string OwnCorpse() { return "My Corpse Location: " + Corpse(); }
 
 void Help(ChatTextHandler&, std::string_view) {
     wtcw(fmt::format("Ombrel Version: {} by Morquin of Dunmarrow.", kVersionText));
@@ -150,7 +147,7 @@ constexpr Command kCommands[] = {
     {"chatcolors", [](ChatTextHandler& chat, std::string_view) { chat.ChatColors(); }},
     {"chatcustom*", AddCustomRule},
     {"log*", SwitchLog},
-    {"loc", nullptr, OwnLocation},
+    {"loc", nullptr, Location},
     {"floc", nullptr, Location, 'f'},
     {"aloc", nullptr, Location, 'a'},
     {"ploc", nullptr, Location, 'p'},
@@ -158,7 +155,7 @@ constexpr Command kCommands[] = {
     {"cloc", nullptr, Location, 'c'},
     {"rloc", nullptr, Location, 'r'},
     {"oloc", nullptr, Location, 'o'},
-    {"corpse", nullptr, OwnCorpse},
+    {"corpse", nullptr, Corpse},
     {"fcorpse", nullptr, Corpse, 'f'},
     {"acorpse", nullptr, Corpse, 'a'},
     {"pcorpse", nullptr, Corpse, 'p'},

@@ -77,7 +77,7 @@ TEST_F(ChatStories, AHuntIsCountedRatedAndSurvived) {
                       }));
     EXPECT_THAT(read, Not(Contains(HasSubstr("Strength Self VI has expired")))) << "it was cast anew";
     EXPECT_THAT(read, Not(Contains(HasSubstr("Leather Boots")))) << "part of the armour";
-    EXPECT_THAT(sent, Contains("/f 42.6N, 34.0E"));
+    EXPECT_THAT(sent, Contains("/f My Corpse Location: 42.6N, 34.0E"));
     EXPECT_THAT(answers, ElementsAre("1,226,785,600", "27,746,600", "321,067,200", "0"));
     EXPECT_THAT(Document("Ombrel Errors.txt"), IsEmpty());
 }

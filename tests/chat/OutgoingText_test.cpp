@@ -56,18 +56,18 @@ TEST_F(OutgoingTextTest, HelpIsFoundAnywhereInTheLine) {
 
 TEST_F(OutgoingTextTest, ReportsGoToTheChannelOfTheirLetter) {
     const std::pair<const char*, const char*> rows[] = {
-        {"/m floc", "/f 42.1N, 33.6W"}, {"/m aloc", "/a 42.1N, 33.6W"}, {"/m ploc", "/p 42.1N, 33.6W"},
-        {"/m vloc", "/v 42.1N, 33.6W"}, {"/m cloc", "/c 42.1N, 33.6W"}, {"/m rloc", "/r 42.1N, 33.6W"},
-        {"/m oloc", "42.1N, 33.6W"},
+        {"/m floc", "/f My Location: 42.1N, 33.6W"}, {"/m aloc", "/a My Location: 42.1N, 33.6W"},
+        {"/m ploc", "/p My Location: 42.1N, 33.6W"}, {"/m vloc", "/v My Location: 42.1N, 33.6W"},
+        {"/m cloc", "/c My Location: 42.1N, 33.6W"}, {"/m rloc", "/r My Location: 42.1N, 33.6W"},
+        {"/m oloc", "My Location: 42.1N, 33.6W"},
     };
     for (const auto& [command, sent] : rows) {
         EXPECT_THAT(Answer(command), IsEmpty()) << command;
         EXPECT_THAT(Commands(), ElementsAre(sent)) << command;
     }
     for (const char* report : {"corpse", "xp", "exp", "level"}) {
-        auto own = Answer(std::string("/m ") + report);
+        const auto own = Answer(std::string("/m ") + report);
         ASSERT_THAT(own, SizeIs(1)) << report;
-        if (own[0].starts_with("My Corpse Location: ")) own[0] = own[0].substr(20);
         Answer(std::string("/m f") + report);
         EXPECT_THAT(Commands(), ElementsAre("/f " + own[0])) << report;
         Answer(std::string("/m o") + report);
@@ -88,6 +88,8 @@ TEST_F(OutgoingTextTest, ReportsTellWhatTheViewShows) {
                     "killing 3 creatures."));
     EXPECT_THAT(Answer("/m level"), ElementsAre("Aldra needs 4,000 XP to reach level 43 (12.5% Complete). It will take "
                                                 "Infinity at the current rate."));
+    Vars::Statistics->BarPercent = 0.5;
+    EXPECT_THAT(Answer("/m level"), ElementsAre(HasSubstr(" (0.5% Complete)")));
 }
 
 TEST_F(OutgoingTextTest, SwitchesTellTheirNewState) {
