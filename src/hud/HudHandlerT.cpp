@@ -56,11 +56,11 @@ HudHandlerT::HudHandlerT() : frame(kNames) {
         frame.Open({.fit = [] { return false; },
                     .empty = [this] { return object_ == nullptr; },
                     .paint =
-                        [this](host::HudView& view, bool all) {
+                        [this](host::HudView& view, bool) {
                             ReadObject();
                             UpdateHealth(false);
                             UpdateDebuffs(false);
-                            Paint(view, all, "OutputHud");
+                            Paint(view, true, "OutputHud");
                         },
                     .measure = [this] { return Measure(); },
                     .bare_when_empty = true});
@@ -89,7 +89,7 @@ bool HudHandlerT::CanDraw() const { return !Vars::HudFailed && frame.Enabled() &
 
 // Draws outside of an output, with a beginning and an end of its own, if there is anything to draw.
 void HudHandlerT::DrawAlone(std::string_view procedure) {
-    if (rows_ == painted_rows_ && strip_ == painted_strip_) return;
+    if (!strip_due_ && rows_ == painted_rows_ && strip_ == painted_strip_) return;
     host::HudView& view = *frame.view();
     view.BeginRender(false);
     try {
@@ -164,7 +164,11 @@ void HudHandlerT::UpdateHealth(bool drawAlone) try {
     if (drawAlone && !CanDraw()) return;
     ReadObject();
     ArrangeRows(card_, rows_);
-    if (drawAlone) DrawAlone("UpdateHealth");
+    if (!drawAlone) return;
+    for (Row& row : painted_rows_) {
+        if (row.kind == Row::Kind::kHealth) row = {};
+    }
+    DrawAlone("UpdateHealth");
 } catch (...) {
     ReportFailure("UpdateHealth", "HudHandlerT");
 }
@@ -184,14 +188,14 @@ HudHandlerT::Row HudHandlerT::HealthRow(const host::Rect& rect) const {
 void HudHandlerT::AddDebuff(host::Id objectId, std::int32_t spellId) try {
     auto& table = *Vars::SpellFilterHandler;
     auto spell = std::make_shared<SpellInfo>();
-    spell->Name = table.GetName(spellId);
     spell->spellid = spellId;
     spell->family = table.GetFamily(spellId);
-    spell->difficulty = table.GetDifficulty(spellId);
     spell->timeRemaining = table.GetDuration(spellId);
     spell->finish = ToLong(static_cast<double>(NowUnix()) + spell->timeRemaining);
-    spell->sTarget = NumberText(objectId);
+    spell->difficulty = table.GetDifficulty(spellId);
     spell->lngIcon = table.GetIcon(spellId);
+    spell->Name = table.GetName(spellId);
+    spell->sTarget = NumberText(objectId);
     const std::int32_t family = spell->family;
     if (Vars::DebugMode) wtcw_debug(fmt::format("AddSpell {} {} {}", objectId, spellId, family));
     debuffs_[objectId].AddSpell(family, std::move(spell));
@@ -217,6 +221,7 @@ void HudHandlerT::UpdateDebuffs(bool drawAlone) try {
     if (!drawAlone || !CanDraw()) return;
     ReadObject();
     ArrangeRows(card_, rows_);
+    strip_due_ = !IsEmpty(strip_);
     DrawAlone("UpdateDebuffs");
 } catch (...) {
     ReportFailure("UpdateDebuffs", "HudHandlerT");

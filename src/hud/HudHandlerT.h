@@ -1,7 +1,7 @@
 // The canvas of the target HUD: a card of one object, with its health and the debuffs on it.
 //
-// The card has a fixed size of six rows. What it shows is put together as text first and compared with what was painted
-// last, so that a refresh paints only the rows that changed, and nothing at all when none did.
+// The card has a fixed size of six rows. What it shows is put together as text first. An output paints all of it;
+// between two outputs the health and the debuffs are painted alone, with the rows that they move.
 #pragma once
 
 #include <tsl/ordered_map.h>
@@ -29,7 +29,7 @@ public:
     void SetObject(host::WorldObjectPtr object);  // nothing for none
     const host::WorldObjectPtr& Object() const { return object_; }
 
-    // The object may have changed: reads it anew, and draws what has become different.
+    // The object may have changed: reads it anew, and draws it.
     void Refresh();
 
     // What the server tells of the object's health. drawAlone draws it at once, else the next output does.
@@ -71,15 +71,7 @@ private:
     };
     static constexpr std::size_t kCells = 8;
     using Strip = std::array<Cell, kCells>;
-
-    // What every part of the card is painted with.
-    struct Look {
-        std::string color, face;
-        std::int32_t size = 0;
-        std::int32_t background = 0;
-        std::int32_t icon_size = 0;
-        bool outline = false;
-    };
+    static bool IsEmpty(const Strip& strip);
 
     bool Measure();
     std::int32_t TextHeight() const;
@@ -95,7 +87,6 @@ private:
 
     // Painting, in TargetPainting.cpp.
     void Paint(host::HudView& view, bool all, std::string_view procedure);
-    bool TakeLook();
     void PaintGround(host::HudView& view) const;
     void PaintRow(host::HudView& view, const Row& row, const host::Rect& rect) const;
     void PaintHealth(host::HudView& view, const Row& row, const host::Rect& rect) const;
@@ -117,9 +108,7 @@ private:
     Strip strip_;
     CardRows painted_rows_;
     Strip painted_strip_;
-    Look painted_look_;
-    bool painted_object_ = false;
-    bool repaint_ = true;  // nothing of the card can be left as it is
+    bool strip_due_ = false;  // the strip is to be painted although it looks the same
 };
 
 }  // namespace ombrel

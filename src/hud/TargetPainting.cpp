@@ -30,10 +30,6 @@ void ClearAndFill(host::HudView& view, const host::Rect& rect, std::int32_t colo
     view.Fill(rect, color);
 }
 
-bool IsEmpty(const auto& strip) {
-    return std::ranges::all_of(strip, [](const auto& cell) { return cell.minutes == 0; });
-}
-
 }  // namespace
 
 // Places.
@@ -63,12 +59,17 @@ host::Rect HudHandlerT::StripRect() const {
 
 // Painting.
 
+bool HudHandlerT::IsEmpty(const Strip& strip) {
+    return std::ranges::all_of(strip, [](const Cell& cell) { return cell.minutes == 0; });
+}
+
 void HudHandlerT::Paint(host::HudView& view, bool all, std::string_view procedure) {
     const bool empty_strip = IsEmpty(strip_);
-    repaint_ |= TakeLook() || all || painted_object_ != (object_ != nullptr);
-    repaint_ |= empty_strip != IsEmpty(painted_strip_);
-    if (!repaint_ && rows_ == painted_rows_ && strip_ == painted_strip_) return;
-
+    const bool ground = all || empty_strip != IsEmpty(painted_strip_);
+    if (ground) {
+        painted_rows_.fill({});
+        painted_strip_.fill({});
+    }
     const auto attempt = [&](std::size_t part, const auto& paint) {
         try {
             paint();
@@ -77,14 +78,8 @@ void HudHandlerT::Paint(host::HudView& view, bool all, std::string_view procedur
         }
     };
     view.BeginText(frame.FontFace(), frame.FontSize(), kWeight, false);
-    if (repaint_) {
-        PaintGround(view);
-        painted_rows_.fill({});
-        painted_strip_.fill({});
-        painted_object_ = object_ != nullptr;
-        repaint_ = false;
-    }
-    bool strip = strip_ != painted_strip_;
+    if (ground) PaintGround(view);
+    bool strip = strip_due_ || strip_ != painted_strip_;
     for (std::size_t i = 0; i < kRows; ++i) {
         if (rows_[i] == painted_rows_[i]) continue;
         strip |= !empty_strip;
@@ -97,19 +92,10 @@ void HudHandlerT::Paint(host::HudView& view, bool all, std::string_view procedur
         attempt(kFirstRowPart + kRows, [&] {
             PaintStrip(view);
             painted_strip_ = strip_;
+            strip_due_ = false;
         });
     }
     view.EndText();
-}
-
-// Whether the card looks different from how it was painted.
-bool HudHandlerT::TakeLook() {
-    Look& look = painted_look_;
-    if (look.color == FontColor && look.face == frame.FontFace() && look.size == frame.FontSize() &&
-        look.background == frame.BackgroundColor && look.icon_size == frame.IconSize && look.outline == frame.Outline)
-        return false;
-    look = {FontColor, frame.FontFace(), frame.FontSize(), frame.BackgroundColor, frame.IconSize, frame.Outline};
-    return true;
 }
 
 // Without a target nothing is seen of the card.

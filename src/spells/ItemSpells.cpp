@@ -15,18 +15,19 @@ namespace {
 constexpr std::string_view kAllArmor = "your armor.";
 constexpr double kAugmentation = 0.2;  // of a spell's duration, each
 
-SpellInfoPtr NewItemSpell(std::int32_t id, std::string name, double seconds, const std::string& target) {
-    auto& table = *Vars::SpellFilterHandler;
+SpellInfoPtr NewItemSpell(std::int32_t id, const std::string& target) {
     auto spell = std::make_shared<SpellInfo>();
-    spell->Name = std::move(name);
     spell->spellid = id;
-    spell->family = table.GetFamily(id);
-    spell->difficulty = table.GetDifficulty(id);
-    spell->timeRemaining = ToLong(seconds);
-    spell->finish = ToLong(static_cast<double>(NowUnix()) + spell->timeRemaining);
+    spell->family = Vars::SpellFilterHandler->GetFamily(id);
     spell->sTarget = target;
-    spell->lngIcon = table.GetIcon(id);
     return spell;
+}
+
+void Fill(SpellInfo& spell, double seconds) {
+    spell.timeRemaining = ToLong(seconds);
+    spell.finish = ToLong(static_cast<double>(NowUnix()) + spell.timeRemaining);
+    spell.difficulty = Vars::SpellFilterHandler->GetDifficulty(spell.spellid);
+    spell.lngIcon = Vars::SpellFilterHandler->GetIcon(spell.spellid);
 }
 
 }  // namespace
@@ -37,7 +38,10 @@ void SpellHandler::AddItemSpell(const std::string& spellname, const std::string&
 
     auto& table = *Vars::SpellFilterHandler;
     const std::int32_t id = table.GetID(spellname);
-    FileItemSpell(NewItemSpell(id, spellname, (kAugmentation * lAugs + 1.0) * table.GetDuration(id), sTarget));
+    SpellInfoPtr spell = NewItemSpell(id, sTarget);
+    Fill(*spell, (kAugmentation * lAugs + 1.0) * table.GetDuration(id));
+    spell->Name = spellname;
+    FileItemSpell(std::move(spell));
     BuildSpellList();
 } catch (...) {
     ReportFailure("AddItemSpell", "SpellHandler");
@@ -48,7 +52,10 @@ void SpellHandler::AddItemSpellfromData(std::int32_t spell, std::int32_t remaini
     if (Vars::DebugMode) wtcw_debug(fmt::format("AddItemSpellFromData {} {} {}", spell, remaining, sTarget));
     if (sTarget != kAllArmor && Vars::FilterHandler->GetIDinInv(sTarget) == -1) return;
 
-    FileItemSpell(NewItemSpell(spell, Vars::SpellFilterHandler->GetName(spell), remaining, sTarget));
+    SpellInfoPtr saved = NewItemSpell(spell, sTarget);
+    Fill(*saved, remaining);
+    saved->Name = Vars::SpellFilterHandler->GetName(spell);
+    FileItemSpell(std::move(saved));
 } catch (...) {
     ReportFailure("AddItemSpellfromData", "SpellHandler");
 }

@@ -7,6 +7,7 @@ namespace ombrel::test {
 namespace {
 
 using testing::Contains;
+using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -163,16 +164,20 @@ TEST_F(Debuffs, ShowAtTheirPlacesWithTheMinutesLeft) {
     }
 }
 
-TEST_F(Debuffs, AreDrawnWhenAMinuteIsOver) {
+TEST_F(Debuffs, AreDrawnEachSecondWithTheMinutesBegun) {
     Claim(6);
     TellEffect(48);
     TellEffect(56);
-    EXPECT_THAT(DrawnTexts(), testing::Not(IsEmpty()));
-    Advance(29s);
-    EXPECT_THAT(Drawn(), IsEmpty()) << "181 seconds are 4 minutes";
+    Forget();
+    Advance(1s);
+    EXPECT_THAT(DrawnTexts(), ElementsAre("4", "4"));
+    Advance(28s);
+    EXPECT_THAT(DrawnTexts(), Each("4")) << "181 seconds are 4 minutes";
     Advance(1s);
     EXPECT_THAT(DrawnTexts(), ElementsAre("3", "3"));
-    Advance(60s);
+    Advance(59s);
+    Forget();
+    Advance(1s);
     EXPECT_THAT(DrawnTexts(), ElementsAre("2", "2"));
     TellEffect(48);
     EXPECT_THAT(DrawnTexts(), ElementsAre("2", "4")) << "armour before blades";
@@ -199,7 +204,7 @@ TEST_F(Debuffs, ShowWithTheirCreatureOnly) {
     client.ObjectSelected(kOther);
     EXPECT_THAT(DrawnImages(), Contains(StartsWith("100668348")));
     client.ObjectSelected(kTarget);
-    EXPECT_THAT(DrawnImages(), ElementsAre(StartsWith("100667446"))) << "only the creature";
+    EXPECT_THAT(DrawnImages(), Each(StartsWith("100667446"))) << "only the creature";
 }
 
 // The handler.
@@ -250,6 +255,9 @@ TEST_F(Debuffs, FailByName) {
     FailNext("Choice.Selected");
     TellEffect(48);
     EXPECT_THAT(TakeReports(), ElementsAre("Error #5 occured in 'Debuff' of class 'HUDTargetHandler'"));
+    FailNext("Spells.ByID");
+    TellEffect(48);
+    EXPECT_THAT(TakeReports(), ElementsAre("Error #5 occured in 'GetFamily' of class 'SpellFilterHandler'"));
     const auto level = options().HudTargetLevel;
     options().HudTargetLevel = {};
     TellEffect(48);

@@ -174,6 +174,8 @@ TEST_F(TargetRows, FollowTheClassOfTheThing) {
         std::vector<std::string> expected = row.rows;
         expected.insert(expected.begin(), row.name);
         EXPECT_EQ(RowsOf(row, ++id), expected);
+        Forget();
+        canvas().Refresh();
         EXPECT_EQ(DrawnTexts(), expected) << "on the surface";
     }
 }

@@ -75,6 +75,19 @@ TEST_F(ItemSpellsTest, EachAugmentationAddsAFifthOfTheTableDuration) {
     EXPECT_THAT(Stored("Oak Wand"), ElementsAre("Hour 7200", "Short 17"));
 }
 
+TEST_F(ItemSpellsTest, TheTableIsAskedForTheFamilyFirst) {
+    for (const bool saved : {false, true}) {
+        FailNext("Spells.ByID");
+        if (saved) {
+            spells().AddItemSpellfromData(1592, 100, "Oak Wand");
+        } else {
+            spells().AddItemSpell("Blade Bane VI", "Oak Wand");
+        }
+        EXPECT_THAT(TakeReports(), ElementsAre("Error #5 occured in 'GetFamily' of class 'SpellFilterHandler'"))
+            << saved;
+    }
+}
+
 TEST_F(ItemSpellsTest, AWeakerCastLeavesTheTimerAndAnEqualOneRenewsIt) {
     spells().AddItemSpell("Impenetrability VI", "Plate Helm");
     Advance(100s);
