@@ -203,7 +203,9 @@ void FilterHandler::StackNote() {
     const auto walk = PackItems(*World, kNote);
     while (const auto stack = walk->Next()) {
         const std::int32_t count = StackOf(*stack);
-        if (stack->GUID() == TradeNoteId || count >= stack->Long(host::key::kStackMaximum, 0)) continue;
+        const std::int32_t most = stack->Long(host::key::kStackMaximum, 0);  // 0 until the client knows it
+        const bool full = most > 0 && count >= most;
+        if (stack->GUID() == TradeNoteId || full) continue;
         wtcw_debug("Stack found, Stacking...");
         sale_.target = stack->GUID();
         sale_.target_count = count;
