@@ -69,12 +69,14 @@ std::string MaskWholeWord(std::string_view text, std::string_view word, bool& ma
     std::string padded = fmt::format(" {} ", text);
     std::string lower = ToLower(padded);
     for (std::size_t at = lower.find(word); !word.empty() && at != std::string::npos;
-         at = lower.find(word, at + word.size())) {
+         at = lower.find(word, Behind(lower, at, word))) {
         if (!StandsAlone(lower, at, word.size())) continue;
 
-        padded = padded.substr(0, at) + Replace(std::string_view(padded).substr(at), word, mask, 1);
-        lower = ToLower(padded);
         masked = true;
+        const std::size_t exact = padded.find(word, at);
+        if (exact == std::string::npos) continue;
+        padded.replace(exact, word.size(), mask);
+        lower.replace(exact, word.size(), mask);
     }
     return std::string(Trim(padded));
 }

@@ -41,7 +41,9 @@ void ExpandCommand(std::string& line, const Alias& alias, bool& typeIt) {
         typeIt = true;
         line = ReplaceNoCase(line, alias.abbreviation, DropLast(full), 1);
     } else {
-        if (!full.empty()) full.remove_prefix(1);
+        std::size_t sign = 0;
+        if (!full.empty()) NextCharacter(full, sign);
+        full.remove_prefix(sign);
         line = ReplaceNoCase(line, std::string_view(alias.abbreviation).substr(1), full, 1);
     }
 }
@@ -54,7 +56,7 @@ void ExpandWord(std::string& line, const Alias& alias) {
 
     std::size_t left = line.size();
     std::string lower = ToLower(line);
-    for (std::size_t at = lower.find(word); at != std::string::npos; at = lower.find(word, at + word.size())) {
+    for (std::size_t at = lower.find(word); at != std::string::npos; at = lower.find(word, Behind(lower, at, word))) {
         if (!StandsAlone(lower, at, word.size())) continue;
         if (left-- == 0 || line.size() > kMaxLength) throw Failure(failure::kStackSpace);
         line = line.substr(0, at) + ReplaceNoCase(std::string_view(line).substr(at), word, alias.full, 1);

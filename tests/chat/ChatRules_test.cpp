@@ -24,6 +24,8 @@ TEST_F(ChatRulesTest, FilterWordsAreMaskedWhereTheyStandExactly) {
         {"darn", "Part", "darned Darn darn", "####ed Darn ####"},
         {"d?rn", "Whole", "a darn shame", "a darn shame"},
         {"b\u00EAte", "Whole", "la b\u00EAte!", "la ####!"},
+        {"\u00E9t\u00E9", "Whole", "\u00E9t\u00E9 \u00E9t\u00E9 \u00C9T\u00C9 \u00E9t\u00E9",
+         "### ### \u00C9T\u00C9 ###"},
     };
     for (const auto& row : rows) {
         options().ChatFilter->Clear();

@@ -177,11 +177,13 @@ TEST_F(OutgoingTextTest, WordsAreExpandedWhereTheyStandAlone) {
     Alias("ty", "thank you");
     Alias("THX", "thanks");
     Alias("you", "u");
+    Alias("\u00E9t\u00E9", "x");
     const std::pair<const char*, const char*> rows[] = {
         {"ty, all", "thank u, all"},
         {"so Ty TY", "so thank u thank u"},
         {"ty2 (ty)", "thank u2 (thank u)"},
         {"thx", "thx"},
+        {"\u00E9t\u00E9 \u00E9t\u00E9s, \u00E9t\u00E9", "x \u00E9t\u00E9s, x"},
     };
     for (const auto& [typed, sent] : rows) {
         Forget();
@@ -196,8 +198,9 @@ TEST_F(OutgoingTextTest, WordsAreExpandedWhereTheyStandAlone) {
 TEST_F(OutgoingTextTest, CommandAliasesKeepTheSignAsTyped) {
     Alias("/x", "/tell Bob,");
     Alias("@y", "/fellow");
+    Alias("/z", "\u00E9clair");  // its first character is taken for the sign
     const std::pair<const char*, const char*> rows[] = {
-        {"/x hi", "/tell Bob, hi"}, {"@X hi /x", "@tell Bob, hi /x"}, {"/y", "/fellow"}};
+        {"/x hi", "/tell Bob, hi"}, {"@X hi /x", "@tell Bob, hi /x"}, {"/y", "/fellow"}, {"@z!", "@clair!"}};
     for (const auto& [typed, sent] : rows) {
         Forget();
         EXPECT_FALSE(Passes(typed)) << typed;
