@@ -1,8 +1,11 @@
 #include "config/ControlTools.h"
 
+#include <algorithm>
+#include <limits>
 #include <utility>
 
 #include "core/Vars.h"
+#include "core/convert.h"
 #include "host/Plugin.h"
 
 namespace ombrel {
@@ -39,6 +42,12 @@ void SelectText(host::Choice& choice, std::string_view text) {
 std::string_view SelectedText(const host::Choice& choice, std::string_view none) {
     const std::int32_t selected = choice.Selected();
     return selected < 0 || selected >= choice.Count() ? none : std::string_view(choice.Text(selected));
+}
+
+std::int32_t NearestLong(std::string_view text) {
+    constexpr double kLowest = std::numeric_limits<std::int32_t>::min();
+    constexpr double kHighest = std::numeric_limits<std::int32_t>::max();
+    return ToLong(std::clamp(ToDouble(text), kLowest, kHighest));
 }
 
 }  // namespace ombrel

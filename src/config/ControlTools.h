@@ -39,4 +39,7 @@ void SelectText(host::Choice& choice, std::string_view text);
 // The text of the selected entry, or `none` when nothing is selected.
 std::string_view SelectedText(const host::Choice& choice, std::string_view none = {});
 
+// The whole number of a text that a player typed; one that is too large is the largest there is.
+std::int32_t NearestLong(std::string_view text);
+
 }  // namespace ombrel

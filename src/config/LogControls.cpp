@@ -43,7 +43,7 @@ void ControlHandler::ChatLogFilter_Change() try {
 }
 
 void ControlHandler::ChatLogMax_End() try {
-    if (IsNumeric(ChatLogMax->Text())) Vars::LogHandler->SetMaxLines(ToLong(ChatLogMax->Text()));
+    if (IsNumeric(ChatLogMax->Text())) Vars::LogHandler->SetMaxLines(NearestLong(ChatLogMax->Text()));
     Settings_Save(0);
 } catch (...) {
     ReportFailure("ChatLogMax_End", "ControlHandler");

@@ -7,6 +7,7 @@
 
 #include "chat/ChatTextHandler.h"
 #include "chat/LogHandler.h"
+#include "config/ControlTools.h"
 #include "config/Effects.h"
 #include "config/ViewHandler.h"
 #include "core/Hub.h"
@@ -36,7 +37,7 @@ struct Load {
     void operator()(const InPercent& in) const {
         const std::string_view text = IsNumeric(WithoutPercent(value)) ? value : attribute.missing;
         (controls().*in.edit)->SetText(text);
-        (controls().*in.slider)->SetPosition(ToLong(WithoutPercent(text)));
+        (controls().*in.slider)->SetPosition(NearestLong(WithoutPercent(text)));
     }
 
     // An entry that this view lacks, as in a file that fits another view, leaves the choice as it was.
@@ -191,7 +192,7 @@ void PassXPChange(Loading& loading) { hud::ApplyXPChange(loading.controls); }
 void PassLog(Loading& loading) {
     const auto& controls = loading.controls;
     if (const std::string& max = controls.ChatLogMax->Text(); IsNumeric(max))
-        Vars::LogHandler->SetMaxLines(ToLong(max));
+        Vars::LogHandler->SetMaxLines(NearestLong(max));
     if (controls.ChatLogAuto->Checked()) Vars::LogHandler->InitFileLog();
 }
 

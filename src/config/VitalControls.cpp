@@ -45,7 +45,7 @@ void effect::ReadPercent(ControlHandler& controls, std::int32_t percent) {
     host::Edit& edit = *(controls.*place.edit);
     const std::string number = WithoutPercent(edit.Text());
     const std::string text = IsNumeric(number) ? number + "%" : std::string(attribute.missing);
-    (controls.*place.slider)->SetPosition(ToLong(WithoutPercent(text)));
+    (controls.*place.slider)->SetPosition(NearestLong(WithoutPercent(text)));
     if (edit.Text() != text) edit.SetText(text);
 }
 

@@ -229,6 +229,11 @@ TEST_F(SettingsTest, FlagsMayBeNumbersAndTextsStayAsTheyAre) {
     EXPECT_EQ(options().VitalsCheap->Text(), "80%");
     EXPECT_EQ(options().VitalsCheapSlider->Position(), 80);
     EXPECT_EQ(options().VitalsFallbackSlider->Position(), 62);
+
+    Load(Document("<Chat_Log max=\"99999999999\"/><One_Touch block=\"99999999999%\" success=\"-1e40\"/>"));
+    EXPECT_EQ(Vars::SettingsState, 2) << "what can be typed can be loaded";
+    EXPECT_EQ(options().VitalsBlockSlider->Position(), 100);
+    EXPECT_EQ(options().VitalsSuccessSlider->Position(), 0);
 }
 
 TEST_F(SettingsTest, WhatItDoesNotKnowIsPassedOver) {
