@@ -37,18 +37,21 @@ std::int32_t ToMoment(std::int64_t seconds) {
     return static_cast<std::int32_t>(seconds);
 }
 
+// The present moment in whole seconds since 1970, universal time.
+std::int64_t NowSeconds() {
+    const std::int64_t now = Vars::Platform->Now();
+    return now / 1000 - (now % 1000 < 0 ? 1 : 0);
+}
+
 int HalfDayHour(int hour) { return hour % 12 == 0 ? 12 : hour % 12; }
 
 std::string_view HalfDay(int hour) { return hour < 12 ? "AM" : "PM"; }
 
 }  // namespace
 
-std::int32_t NowUnix() {
-    const std::int64_t now = Vars::Platform->Now();
-    return ToMoment(now / 1000 - (now % 1000 < 0 ? 1 : 0));
-}
+std::int32_t NowUnix() { return ToMoment(NowSeconds()); }
 
-Date NowDate() { return UnixToDate(NowUnix()); }
+Date NowDate() { return kUnixEpoch + static_cast<double>(NowSeconds() - ZoneSeconds()) / kSecondsPerDay; }
 
 Date UnixToDate(std::int32_t seconds) {
     return kUnixEpoch + static_cast<double>(seconds - ZoneSeconds()) / kSecondsPerDay;

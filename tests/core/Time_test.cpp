@@ -52,6 +52,9 @@ TEST_F(Time, ThePresentIsInWholeSeconds) {
     EXPECT_EQ(FormatGeneralDate(NowDate()), "7/4/2024 1:05:09 PM");
     platform_.now = -1;
     EXPECT_EQ(NowUnix(), -1);
+    platform_.now = 4133980800000;  // a calendar goes on where moments end
+    EXPECT_THROW(NowUnix(), Failure);
+    EXPECT_EQ(FormatGeneralDate(NowDate()), "1/1/2101");
 }
 
 TEST_F(Time, DatesReadAsPeopleWriteThem) {
