@@ -54,14 +54,12 @@ constexpr std::int32_t kScreenshotDelay = 1000;
 constexpr std::int32_t kStartupDelay = 3000;
 constexpr std::int32_t kSellingPeriod = 500;
 
-// The screenshot of a new level. Its failures end here, so that the timer stops all the same and none is told of twice.
-void TakeScreenshot() try {
+// The screenshot of a new level.
+void TakeScreenshot() {
     const ControlHandler& options = *Vars::ControlHandler;
     if (!options.LevelSS->Checked()) return;
     if (Vars::FilterHandler->GetMyCharLevel() < ToDouble(options.StartLevel->Text())) return;
     Vars::KeyboardAC->SendKey(Vars::Decal->MapKey("CaptureScreenshot"));
-} catch (...) {
-    ReportFailure("TakeSS", "TimerHandler");
 }
 
 }  // namespace
@@ -160,6 +158,7 @@ void TimerHandler::ShowChange_Timeout() try {
     ReportFailure("ShowChange_Timeout", "TimerHandler");
 }
 
+// One that fails is tried again with the next tick: the timer stops behind it.
 void TimerHandler::TakeSS_Timeout() try {
     TakeScreenshot();
     TakeSS->Stop();
