@@ -1,10 +1,6 @@
 // The handler's making and end: the client's objects, and which of their events go where.
 #include "core/FilterHandler.h"
 
-#include <fmt/format.h>
-
-#include <string_view>
-
 #include "core/Hub.h"
 #include "core/Vars.h"
 #include "core/failure.h"
@@ -86,7 +82,7 @@ void FilterHandler::BindHooks() {
 }
 
 void FilterHandler::BindWorld() {
-    if (!Take(World, [] { return Vars::Site->GetWorld(); })) return TellMissing("World");
+    if (!Take(World, [] { return Vars::Site->GetWorld(); })) return;
     World->CreateObject = [this](host::Id id) { World_CreateObject(id); };
     World->ChangeObject = [this](host::Id id, std::int32_t change) { World_ChangeObject(id, change); };
     World->MoveObject = [this](host::Id id) { World_MoveObject(id); };
@@ -94,7 +90,7 @@ void FilterHandler::BindWorld() {
 }
 
 void FilterHandler::BindCharStats() {
-    if (!Take(CharStats, [] { return Vars::Site->GetCharacterStats(); })) return TellMissing("CharacterStats");
+    if (!Take(CharStats, [] { return Vars::Site->GetCharacterStats(); })) return;
     CharStats->LoginComplete = [this] { Char_LoginComplete(); };
     CharStats->Logoff = [this](std::int32_t kind) { Char_Logoff(kind); };
     CharStats->ChangeVital = [this](std::int32_t vital, std::int32_t value) { Char_ChangeVital(vital, value); };
@@ -103,15 +99,6 @@ void FilterHandler::BindCharStats() {
     };
     CharStats->ChangePortalMode = [this](std::int32_t mode) { Char_ChangePortalMode(mode); };
     CharStats->Death = [this](const std::string& text) { Char_Death(text); };
-}
-
-// The one word that the player gets of it: the report finds no chat yet, since the handlers behind this one are to
-// come.
-void FilterHandler::TellMissing(std::string_view service) {
-    if (!ACHooks) return;
-    WriteToChatWindow(
-        fmt::format("<Ombrel> The framework's service '{}' is missing. Much of the plugin will not work.", service), 6,
-        1);
 }
 
 }  // namespace ombrel

@@ -148,7 +148,6 @@ private:
     void BindHooks();
     void BindWorld();
     void BindCharStats();
-    void TellMissing(std::string_view service);
 
     void SellStep(std::int32_t count, std::int32_t pyreals, double needed);
     void BuyStep(const host::WorldObject& note, double needed);
