@@ -53,7 +53,6 @@ void Gather(std::vector<std::string>& lines, host::Timer& timer, std::string_vie
 
 // What stands for a gathered group: a single line itself, else one line for all pieces of armour.
 std::string LineOfGroup(const std::vector<std::string>& lines, std::string_view ending) {
-    if (lines.empty()) throw Failure(failure::kSubscript);
     if (lines.size() == 1) return lines.front();
     return std::string(Split(lines.front(), " on ").front()).append(ending);
 }
@@ -262,19 +261,20 @@ void ChatTextHandler::KillLine(ChatLine& line) {
     line.rewrite = true;
 }
 
-// A line that comes in while the group's own line is on its way begins a new group.
+// A line that comes in while the group's own line is on its way belongs to the next group, for which the timer goes on.
 void ChatTextHandler::TimeSpells_Timeout() try {
-    TimeSpells->Stop();
     const std::vector<std::string> lines = std::exchange(SpellsExpiring, {});
-    IncomingText(LineOfGroup(lines, " on your armor has expired."), chat_type::kMagic, 0, true, false);
+    if (!lines.empty())
+        IncomingText(LineOfGroup(lines, " on your armor has expired."), chat_type::kMagic, 0, true, false);
+    if (SpellsExpiring.empty()) TimeSpells->Stop();
 } catch (...) {
     ReportFailure("TimeSpells_Timeout", "ChatTextHandler");
 }
 
 void ChatTextHandler::TimeCast_Timeout() try {
-    TimeCast->Stop();
     const std::vector<std::string> lines = std::exchange(SpellsCast, {});
-    IncomingText(LineOfGroup(lines, " on your armor."), chat_type::kMagic, 0, true, false);
+    if (!lines.empty()) IncomingText(LineOfGroup(lines, " on your armor."), chat_type::kMagic, 0, true, false);
+    if (SpellsCast.empty()) TimeCast->Stop();
 } catch (...) {
     ReportFailure("TimeCast_Timeout", "ChatTextHandler");
 }

@@ -103,6 +103,7 @@ struct Decimal {
 
 // Digits that the text of a number shows at most.
 constexpr int kMostDigits = 15;
+constexpr int kMostWholeDigits = 20;  // of a whole number of 64 bits
 constexpr int kMostFloatDigits = 7;
 
 Decimal ToDecimal(double value, int digits = kMostDigits) {
@@ -223,7 +224,7 @@ double Round(double value, int decimals) {
 }
 
 std::string FormatFixed(double value, int decimals) {
-    auto number = ToDecimal(value);
+    auto number = ToDecimal(value, std::abs(value) < 1e15 ? kMostDigits : kMostWholeDigits);
     RoundDigits(number, number.point + decimals);
     if (number.digits.find_first_not_of('0') == std::string::npos) number = {};
 

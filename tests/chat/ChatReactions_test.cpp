@@ -118,6 +118,7 @@ TEST_F(ChatReactionsTest, ItemSpellsThatEndTogetherMakeOneLine) {
     EXPECT_FALSE(Shown(item("Sword"), 7));
     Advance(300ms);
     EXPECT_THAT(lines, ElementsAre(Line{item("Sword"), 7, 1}));
+    EXPECT_TRUE(CalledInOrder({"ChatOut", "TimerStop name=ChatTextHandler.TimeSpells"}));
     Advance(5s);
     EXPECT_EQ(lines.size(), 1u);
     EXPECT_TRUE(chat().SpellsExpiring.empty());
@@ -132,6 +133,7 @@ TEST_F(ChatReactionsTest, CastsOnItemsAreGatheredAndThoseOnOneselfAreNot) {
     Forget();
     Advance(300ms);
     EXPECT_THAT(lines, ElementsAre(Line{"You cast Impenetrability VI on your armor.", 7, 1}));
+    EXPECT_TRUE(CalledInOrder({"ChatOut", "TimerStop name=ChatTextHandler.TimeCast"}));
 }
 
 TEST_F(ChatReactionsTest, ASpellThatStillRunsExpiresUnseenOnRequest) {

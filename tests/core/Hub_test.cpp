@@ -106,6 +106,8 @@ TEST_F(Hub, CountsAreGroupedByThousands) {
         {0.4, "0"},
         {-1, "-1"},
         {191226310247.0, "191,226,310,247"},
+        {9007199254740991.0, "9,007,199,254,740,991"},
+        {18446744073709551616.0, "18,446,744,073,709,551,616"},
     };
     for (const auto& [value, text] : cases) EXPECT_EQ(FormatCount(value, false), text);
     EXPECT_EQ(FormatCount(-1, true), "Infinate");
