@@ -38,7 +38,7 @@ std::int32_t JsonMessage::Long(std::string_view field) const {
     if (value.is_number_float()) return ToLong(value.get<double>());
     if (value.is_number()) return static_cast<std::int32_t>(value.get<std::int64_t>());
     if (value.is_string()) return ToLong(value.get_ref<const std::string&>());
-    if (value.is_boolean()) return value.get<bool>() ? -1 : 0;
+    if (value.is_boolean()) return value.get<bool>() ? 1 : 0;  // as the game sends it
     throw Failure(failure::kTypeMismatch);
 }
 

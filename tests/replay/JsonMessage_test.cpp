@@ -18,8 +18,8 @@ std::int32_t NumberOf(Body body) {
 }
 
 TEST(JsonMessage, ReadsFieldsOfEveryShape) {
-    const Json json =
-        Json::parse(R"({"Type": 63408, "key": 4294967297, "effect": 1.5, "text": "You split it!", "count": "12",
+    const Json json = Json::parse(
+        R"({"Type": 63408, "key": 4294967297, "effect": 1.5, "text": "You split it!", "count": "12", "success": true,
         "value": [64, 66, 15, 0, 0, 0, 0, 0], "properties": {"qwords": [{"key": 1}, {"key": 2}]}})");
     Calls calls;
     const JsonMessage message(json, calls);
@@ -29,6 +29,7 @@ TEST(JsonMessage, ReadsFieldsOfEveryShape) {
     EXPECT_EQ(message.Double("effect"), 1.5);
     EXPECT_EQ(message.Text("Text"), "You split it!");
     EXPECT_EQ(message.Long("count"), 12);
+    EXPECT_EQ(message.Long("success"), 1);
     EXPECT_EQ(message.Bytes("value"), (std::vector<std::uint8_t>{64, 66, 15, 0, 0, 0, 0, 0}));
     EXPECT_EQ(message.Struct("properties")->Struct("qwords")->Item(1)->Long("key"), 2);
 }
