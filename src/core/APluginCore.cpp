@@ -175,8 +175,8 @@ APluginCore::~APluginCore() {
 }
 
 void APluginCore::IPlugin2_Initialize(host::PluginSite& site) try {
-    ReleaseLeftovers();
     ResetState();
+    ReleaseLeftovers();
     wtcw_debug("Plugin Core Init");
 
     // Looked for and no more: the folder is made with the first file that goes there.

@@ -42,8 +42,12 @@ TEST_F(APluginCoreTest, ScreenAndFileColoursDifferInAFewRowsOnPurpose) {
 
 TEST_F(APluginCoreTest, ASecondStartBeginsClean) {
     LogIn();
-    Vars::DebugMode = Vars::DebugSilent = Vars::HudFailed = Vars::XPDebug = true;
+    Vars::DebugMode = Vars::HudFailed = Vars::XPDebug = true;
     Vars::LastKillText = "You slay the drudge!";
+    Forget();
+    client.Initialize();
+    EXPECT_THAT(lines, IsEmpty());
+    Vars::DebugSilent = true;
     client.Initialize();
     EXPECT_FALSE(Vars::Loaded || Vars::DebugMode || Vars::DebugSilent || Vars::HudFailed || Vars::XPDebug);
     EXPECT_EQ(Vars::SettingsState, 0);
