@@ -56,7 +56,8 @@ HudHandlerT::HudHandlerT() : frame(kNames) {
         frame.Open({.fit = [] { return false; },
                     .empty = [this] { return object_ == nullptr; },
                     .paint =
-                        [this](host::HudView& view, bool) {
+                        [this](host::HudView& view, bool all) {
+                            if (!object_ && !all && painted_rows_ == CardRows{}) return;  // clear already
                             ReadObject();
                             UpdateHealth(false);
                             UpdateDebuffs(false);

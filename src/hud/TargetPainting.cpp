@@ -66,10 +66,6 @@ bool HudHandlerT::IsEmpty(const Strip& strip) {
 void HudHandlerT::Paint(host::HudView& view, bool all, std::string_view procedure) {
     const bool empty_strip = IsEmpty(strip_);
     const bool ground = all || empty_strip != IsEmpty(painted_strip_);
-    if (ground) {
-        painted_rows_.fill({});
-        painted_strip_.fill({});
-    }
     const auto attempt = [&](std::size_t part, const auto& paint) {
         try {
             paint();
@@ -78,7 +74,11 @@ void HudHandlerT::Paint(host::HudView& view, bool all, std::string_view procedur
         }
     };
     view.BeginText(frame.FontFace(), frame.FontSize(), kWeight, false);
-    if (ground) PaintGround(view);
+    if (ground) {
+        PaintGround(view);
+        painted_rows_.fill({});
+        painted_strip_.fill({});
+    }
     bool strip = strip_due_ || strip_ != painted_strip_;
     for (std::size_t i = 0; i < kRows; ++i) {
         if (rows_[i] == painted_rows_[i]) continue;

@@ -267,7 +267,15 @@ TEST_F(TargetCardTest, IsClearWithoutATarget) {
     EXPECT_THAT(Drawn(), Each(StartsWith("Fill " + inside)));
     EXPECT_THAT(canvas().Rows(), IsEmpty());
     frame().DrawHUD();
-    EXPECT_THAT(DrawnTexts(), IsEmpty());
+    EXPECT_THAT(Drawn(), IsEmpty());
+
+    client.ObjectSelected(kTarget);
+    FailNext("HudView.BeginText");
+    canvas().SetObject(nullptr);
+    EXPECT_THAT(TakeReports(), SizeIs(1));
+    Forget();
+    frame().DrawHUD();
+    EXPECT_THAT(Drawn(), ElementsAre("Fill " + inside + " color=0")) << "what could not be cleared is cleared later";
 }
 
 TEST_F(TargetCardTest, ShowsNoTitleWithoutATarget) {
