@@ -12,19 +12,19 @@
 namespace ombrel::workbench {
 namespace {
 
-constexpr std::int32_t kMainWindow = 1, kLastWindow = 5;
+constexpr std::size_t kMainWindow = 1, kLastWindow = 5;
 constexpr float kMainShare = 0.62f;
+constexpr float kIndent = 12;  // of a line's second and later rows
 
-// A piece of a line: plain, or a link with what a click on it says.
-struct Piece {
-    std::string text;
-    bool link = false;
-    std::string target = {};
-    host::Id id = 0;
-};
+std::string_view WithoutLineFeed(std::string_view text) {
+    while (!text.empty() && text.back() == '\n') text.remove_suffix(1);
+    return text;
+}
+
+}  // namespace
 
 // <Tell:IIDString:1342309377:Thessaly>Thessaly<\Tell>
-std::vector<Piece> Pieces(std::string_view line) {
+std::vector<ChatView::Piece> ChatView::Pieces(std::string_view line) {
     constexpr std::string_view kStart = "<Tell:IIDString:", kEnd = "<\\Tell>";
     std::vector<Piece> pieces;
     while (!line.empty()) {
@@ -48,13 +48,6 @@ std::vector<Piece> Pieces(std::string_view line) {
     return pieces;
 }
 
-std::string_view WithoutLineFeed(std::string_view text) {
-    while (!text.empty() && text.back() == '\n') text.remove_suffix(1);
-    return text;
-}
-
-}  // namespace
-
 void ChatView::Draw(ImVec2 at, ImVec2 size) {
     constexpr ImGuiWindowFlags kFixed = ImGuiWindowFlags_NoMove | ImGuiWindowFlags_NoResize |
                                         ImGuiWindowFlags_NoCollapse | ImGuiWindowFlags_NoBringToFrontOnFocus;
@@ -70,41 +63,48 @@ void ChatView::Draw(ImVec2 at, ImVec2 size) {
     ImGui::SetNextWindowPos({at.x + main, at.y});
     ImGui::SetNextWindowSize({size.x - main, size.y});
     if (ImGui::Begin("Floating chat windows", nullptr, kFixed) && ImGui::BeginTabBar("floating")) {
-        for (std::int32_t window = kMainWindow + 1; window <= kLastWindow; ++window) {
-            const auto count =
-                static_cast<std::size_t>(std::ranges::count(game_.chat, window, &sim::Client::ChatLine::window));
-            std::size_t& seen = seen_[static_cast<std::size_t>(window)];
-            const std::string label =
-                fmt::format("{}{}###{}", window - 1, count > seen ? fmt::format(" ({})", count - seen) : "", window);
-            if (ImGui::BeginTabItem(label.c_str())) {
-                seen = count;
-                DrawLines(window);
-                ImGui::EndTabItem();
-            } else {
-                seen = std::min(seen, count);
-            }
-        }
+        DrawFloating();
         ImGui::EndTabBar();
     }
     ImGui::End();
+
+    if (!clicked_) return;
+    const Piece link = *std::exchange(clicked_, std::nullopt);
+    if (const auto name = game_.ClickLink(link.target, link.id)) {
+        input_ = "/tell " + *name + ", ";
+        Focus();
+    }
 }
 
-void ChatView::DrawLines(std::int32_t window) {
+// A window that is not shown tells how many lines have come to it since it was.
+void ChatView::DrawFloating() {
+    for (std::size_t window = kMainWindow + 1; window <= kLastWindow; ++window) {
+        const std::size_t come = game_.chat[window].gone + game_.chat[window].lines.size();
+        std::size_t& seen = seen_[window];
+        seen = std::min(seen, come);  // a new game
+        const std::string unseen = come > seen ? fmt::format(" ({})", come - seen) : "";
+        if (!ImGui::BeginTabItem(fmt::format("{}{}###{}", window - 1, unseen, window).c_str())) continue;
+        seen = come;
+        DrawLines(window);
+        ImGui::EndTabItem();
+    }
+}
+
+void ChatView::DrawLines(std::size_t window) {
     const float below = window == kMainWindow ? ImGui::GetFrameHeightWithSpacing() : 0;
     ImGui::BeginChild("lines", {0, -below});
     ImGui::PushStyleVar(ImGuiStyleVar_ItemSpacing, {0, 2});
-    bool any = false;
+    const float width = ImGui::GetContentRegionAvail().x;
     int number = 0;
-    for (std::size_t index = 0; index < game_.chat.size(); ++index) {  // a click may add lines
-        if (game_.chat[index].window != window) continue;
+    for (ShownLine& shown : game_.chat[window].lines) {
         ImGui::PushID(number++);
-        DrawLine(game_.chat[index]);
+        DrawLine(shown, width);
         ImGui::PopID();
-        any = true;
     }
-    if (!any && window != kMainWindow) {
+    if (number == 0 && window != kMainWindow) {
         ImGui::PushTextWrapPos();
-        ImGui::TextDisabled("Lines come here when the options send them to window %d (tab Chat).", window - 1);
+        ImGui::TextDisabled("Lines come here when the options send them to window %d (tab Chat).",
+                            static_cast<int>(window) - 1);
         ImGui::PopTextWrapPos();
     }
     ImGui::PopStyleVar();
@@ -112,55 +112,50 @@ void ChatView::DrawLines(std::int32_t window) {
     ImGui::EndChild();
 }
 
-// Words wrap by hand, since a line is made of pieces.
-void ChatView::DrawLine(const sim::Client::ChatLine& line) {
-    const float height = ImGui::GetTextLineHeight();
-    const float right = ImGui::GetContentRegionAvail().x;
+// Words wrap by hand, since a line is made of pieces. One that is out of sight only takes its room.
+void ChatView::DrawLine(ShownLine& shown, float width) {
     const ImVec2 start = ImGui::GetCursorScreenPos();
+    if (shown.width == width && !ImGui::IsRectVisible(start, {start.x + width, start.y + shown.height}))
+        return ImGui::Dummy({width, shown.height});
+    const float height = ImGui::GetTextLineHeight();
+    const ImU32 color = ChatColor(shown.line.color);
     ImDrawList& draw = *ImGui::GetWindowDrawList();
-    const bool visible = ImGui::IsRectVisible(start, {start.x + right, start.y + 6 * height});
-    const ImU32 color = ChatColor(line.color);
     float x = 0, y = 0;
     int number = 0;
-    const std::string text(WithoutLineFeed(line.text));
-    for (const Piece& piece : Pieces(text)) {
+    for (const Piece& piece : Pieces(WithoutLineFeed(shown.line.text))) {
         std::string_view rest = piece.text;
         while (!rest.empty()) {
             const std::size_t space = rest.find_first_of(" \n");
             const std::string_view word = rest.substr(0, space == rest.npos ? rest.size() : space + 1);
             rest.remove_prefix(word.size());
             const bool breaks = word.back() == '\n';
-            const std::string_view shown = breaks ? word.substr(0, word.size() - 1) : word;
-            const float width = ImGui::CalcTextSize(shown.data(), shown.data() + shown.size()).x;
-            if (x > 0 && x + width > right) {
-                x = 12;
+            const std::string_view text = breaks ? word.substr(0, word.size() - 1) : word;
+            const float wide = ImGui::CalcTextSize(text.data(), text.data() + text.size()).x;
+            if (x > 0 && x + wide > width) {
+                x = kIndent;
                 y += height;
             }
             const ImVec2 at{start.x + x, start.y + y};
-            if (visible)
-                draw.AddText(at, piece.link ? Rgb(0xFFFFFF) : color, shown.data(), shown.data() + shown.size());
-            if (piece.link && visible) {
-                draw.AddLine({at.x, at.y + height - 1}, {at.x + width, at.y + height - 1}, Rgb(0xFFFFFF, 110));
+            draw.AddText(at, piece.link ? Rgb(0xFFFFFF) : color, text.data(), text.data() + text.size());
+            if (piece.link) {
+                draw.AddLine({at.x, at.y + height - 1}, {at.x + wide, at.y + height - 1}, Rgb(0xFFFFFF, 110));
                 ImGui::SetCursorScreenPos(at);
                 ImGui::PushID(number++);
-                if (ImGui::InvisibleButton("", {std::max(1.0f, width), height})) {
-                    if (const auto name = game_.ClickLink(piece.target, piece.id)) {
-                        input_ = "/tell " + *name + ", ";
-                        Focus();
-                    }
-                }
+                if (ImGui::InvisibleButton("", {std::max(1.0f, wide), height})) clicked_ = piece;
                 if (ImGui::IsItemHovered()) ImGui::SetMouseCursor(ImGuiMouseCursor_Hand);
                 ImGui::PopID();
             }
-            x += width;
+            x += wide;
             if (breaks) {
-                x = 12;
+                x = kIndent;
                 y += height;
             }
         }
     }
+    shown.width = width;
+    shown.height = y + height;
     ImGui::SetCursorScreenPos(start);
-    ImGui::Dummy({right, y + height});
+    ImGui::Dummy({width, shown.height});
 }
 
 void ChatView::DrawInput() {

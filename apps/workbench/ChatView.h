@@ -4,8 +4,10 @@
 #include <imgui.h>
 
 #include <array>
-#include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "apps/workbench/Game.h"
 
@@ -21,8 +23,18 @@ public:
     void Focus() { focus_ = true; }
 
 private:
-    void DrawLines(std::int32_t window);
-    void DrawLine(const sim::Client::ChatLine& line);
+    // A piece of a line: plain, or a link with what a click on it says.
+    struct Piece {
+        std::string text;
+        bool link = false;
+        std::string target = {};
+        host::Id id = 0;
+    };
+    static std::vector<Piece> Pieces(std::string_view line);
+
+    void DrawFloating();
+    void DrawLines(std::size_t window);
+    void DrawLine(ShownLine& shown, float width);
     void DrawInput();
     void Recall(ImGuiInputTextCallbackData& data);
 
@@ -31,7 +43,8 @@ private:
     std::vector<std::string> said_;  // lines typed so far, the newest last
     std::size_t recalled_ = 0;       // how far back the arrow keys have gone
     bool focus_ = false;
-    std::array<std::size_t, 6> seen_{};  // lines of each window that were there when it was shown last
+    std::optional<Piece> clicked_;
+    std::array<std::size_t, 6> seen_{};  // lines of each window that had come when it was shown last
 };
 
 }  // namespace ombrel::workbench

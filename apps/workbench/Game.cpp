@@ -12,7 +12,7 @@
 namespace ombrel::workbench {
 namespace {
 
-constexpr std::size_t kMostLines = 5'000;      // of chat, and of calls
+constexpr std::size_t kMostLines = 5'000;      // of a chat window, and of calls
 constexpr std::size_t kMostRecords = 200'000;  // of a session that is kept
 constexpr std::int32_t kSpeech = 2;            // chat type of what is said aloud
 
@@ -41,10 +41,13 @@ bool Write(const std::string& path, std::string_view content, std::string& notic
     return false;
 }
 
+// True when the oldest line had to go.
 template <class Line>
-void Keep(std::deque<Line>& lines, Line line) {
+bool Keep(std::deque<Line>& lines, Line line, std::size_t most = kMostLines) {
     lines.push_back(std::move(line));
-    if (lines.size() > kMostLines) lines.pop_front();
+    if (lines.size() <= most) return false;
+    lines.pop_front();
+    return true;
 }
 
 }  // namespace
@@ -63,7 +66,7 @@ void Game::Start() {
         life_->player.reset();
     }
     life_.reset();  // before the next one: a process holds one plug-in
-    chat.clear();
+    chat = {};
     calls.clear();
     records_.clear();
     script_.reset();
@@ -72,6 +75,7 @@ void Game::Start() {
     owed_ = 0;
     in_world_ = false;
     ++changes_;
+    if (!journal_path_.empty()) KeepJournal(journal_path_);
 
     life_ = std::make_unique<Life>();
     sim::Client& client = life_->client;
@@ -85,7 +89,9 @@ void Game::Start() {
     client.calls.listener = [this](const sim::Call& call) { Hear(call); };
     client.chat_listener = [this](const sim::Client::ChatLine& line) {
         ++changes_;
-        Keep(chat, line);
+        if (line.window < 0 || line.window >= static_cast<std::int32_t>(chat.size())) return;
+        ChatWindow& window = chat[static_cast<std::size_t>(line.window)];
+        if (Keep(window.lines, ShownLine{line})) ++window.gone;
     };
     life_->player = std::make_unique<sim::SessionPlayer>(client, result_recorder_.get());
 }
@@ -147,8 +153,7 @@ bool Game::Do(Json record, bool* eaten) {
     }
     result_recorder_->Flush();
     if (eaten) *eaten = results_.str().find("\"eat\": true") != std::string::npos;
-    records_.push_back(record.dump());
-    if (records_.size() > kMostRecords) records_.pop_front();
+    AddRecord(record);
     return true;
 }
 
@@ -224,7 +229,7 @@ void Game::PlayDue(std::int64_t moment) {
         ++script_->next;
         PlayRecord(now);
         now.json["at"] = static_cast<double>(script_->moment) / 1000.0;
-        records_.push_back(now.json.dump());
+        AddRecord(now.json);
         script_->moment = std::max(script_->moment, life_->client.clock.now());
         if (script_->ended()) notice = script_->name + " has been played";
     }
@@ -245,6 +250,23 @@ bool Game::Play(const std::string& path) {
     PlayDue(0);
     if (!client().plugin()) life_->player->Begin();
     return true;
+}
+
+void Game::AddRecord(const Json& record) {
+    Keep(records_, record.dump(), kMostRecords);
+    if (journal_.is_open() && !(journal_ << records_.back() << std::endl)) {
+        journal_.close();
+        notice = journal_path_ + " can't be written any more";
+    }
+}
+
+void Game::KeepJournal(const std::string& path) {
+    journal_path_ = path;
+    journal_.close();
+    journal_.clear();
+    journal_.open(path, std::ios::binary | std::ios::trunc);
+    for (const std::string& record : records_) journal_ << record << '\n';
+    if (!journal_.flush()) throw std::runtime_error(path + " can't be written");
 }
 
 bool Game::Save(const std::string& path) {

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstdint>
 #include <deque>
+#include <fstream>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -29,6 +30,17 @@ struct Folders {
     std::string plugin_folder;
     std::string spells;  // table of spells
     std::string world;   // session file: the world that a new game begins with
+};
+
+// A line in a chat window, and the room that it takes there once it has been laid out.
+struct ShownLine {
+    sim::Client::ChatLine line;
+    float width = 0, height = 0;
+};
+
+struct ChatWindow {
+    std::deque<ShownLine> lines;
+    std::size_t gone = 0;  // lines that have left at the top
 };
 
 struct CallLine {
@@ -87,9 +99,12 @@ public:
 
     // What has been done so far, as a session file. False when it can't be written; `notice` says why.
     bool Save(const std::string& path);
+    // From now on, and from the begin of each new game, the file holds every record as soon as it is played: what led
+    // to a crash is in it. Throws std::runtime_error when it can't be written.
+    void KeepJournal(const std::string& path);
     bool SaveCalls(const std::string& path, const std::function<bool(const CallLine&)>& wanted);
 
-    std::deque<sim::Client::ChatLine> chat;  // what the chat windows show
+    std::array<ChatWindow, 6> chat;  // by the client's number: 1 is the main one
     std::deque<CallLine> calls;
     bool draw_calls = false;  // keep those that draw, too
     std::string notice;       // the last thing that went wrong or was done, in a line
@@ -114,6 +129,7 @@ private:
     void RunTo(std::int64_t moment);
     void PlayDue(std::int64_t moment);
     bool PlayRecord(const sim::Record& record);
+    void AddRecord(const Json& record);
 
     Folders folders_;
     host::RenderService* screen_;
@@ -121,6 +137,8 @@ private:
     std::unique_ptr<sim::Recorder> result_recorder_, call_recorder_;
     std::unique_ptr<Life> life_;
     std::deque<std::string> records_;
+    std::string journal_path_;
+    std::ofstream journal_;
     std::optional<Script> script_;
     std::vector<int> held_;
     double owed_ = 0;  // milliseconds of play that have not passed yet

@@ -13,7 +13,7 @@ bool ReadCommandLine(int count, char** arguments, Options& options, int& status)
                    "Common application data folder, where the default settings are");
     app.add_option("--plugin-folder", options.plugin_folder, "Folder with the view, the sounds and the defaults");
     app.add_option("--spells", options.spells, "Table of spells");
-    app.add_option("--save", options.save, "Writes what happened as a session file when the window closes");
+    app.add_option("--save", options.save, "Writes what happens, as it happens, into a session file");
     app.add_option("--picture", options.picture, "Writes a PNG picture of the window when it closes");
     app.add_option("--seconds", options.seconds, "Closes the window after so many seconds");
     app.add_option("--width", options.width, "Width of the window");

@@ -8,7 +8,7 @@ namespace ombrel::workbench {
 struct Options {
     std::string documents, common_data, plugin_folder, spells;
     std::string session;  // played at the start
-    std::string save;     // where what happened goes, as a session, when the window closes
+    std::string save;     // where what happens goes, as a session
     std::string picture;  // of the window, written before it closes
     double seconds = 0;   // after which it closes by itself; 0: when the player does
     bool frame_times = false;

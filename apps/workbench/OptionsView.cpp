@@ -15,7 +15,6 @@ using sim::Element;
 using sim::ElementKind;
 
 constexpr float kScale = 1.6f;  // of the description's pixels
-constexpr float kFontScale = 1.0f;
 
 ImVec2 operator+(ImVec2 a, ImVec2 b) { return {a.x + b.x, a.y + b.y}; }
 ImVec2 operator-(ImVec2 a, ImVec2 b) { return {a.x - b.x, a.y - b.y}; }
@@ -33,12 +32,10 @@ Kind& As(const Element& element) {
     return static_cast<Kind&>(*element.control);
 }
 
-float FontSize(const Element& element) {
-    return static_cast<float>(element.Number("fontsize", 14)) * kScale * kFontScale * 0.82f;
-}
-
 ImFont* FontOf(const Element& element) {
-    return element.Text("fontstyle").find("bold") != std::string_view::npos ? BoldFont() : ImGui::GetFont();
+    const float size = static_cast<float>(element.Number("fontsize", 14)) * kScale * 0.82f;
+    const bool bold = element.Text("fontstyle").find("bold") != std::string_view::npos;
+    return FontFor(size, bold ? Weight::kBold : Weight::kRegular);
 }
 
 ImU32 ColorOf(const Element& element, ImU32 standard) {
@@ -46,8 +43,8 @@ ImU32 ColorOf(const Element& element, ImU32 standard) {
 }
 
 // A line in the middle of the height, cut off at the edges.
-void Text(ImFont* font, float size, ImVec2 low, ImVec2 high, std::string_view text, ImU32 color,
-          std::string_view align) {
+void Text(ImFont* font, ImVec2 low, ImVec2 high, std::string_view text, ImU32 color, std::string_view align) {
+    const float size = font->FontSize;
     const char* begin = text.data();
     const char* end = begin + text.size();
     const ImVec2 extent = font->CalcTextSizeA(size, 10'000, 0, begin, end);
@@ -169,16 +166,15 @@ void OptionsView::DrawElement(const Element& element, ImVec2 corner) {
 void OptionsView::DrawNotebook(const Element& element, ImVec2 low, ImVec2 high) {
     auto& notebook = As<sim::SimNotebook>(element);
     const float height = sim::kTabHeight * kScale;
-    const float size = 14 * kScale * 0.74f;
+    ImFont* const font = FontFor(16, Weight::kRegular);
     // The strip is as wide as the page: its labels share what is left.
     float labels = 0;
-    for (const auto& page : element.pages)
-        labels += ImGui::GetFont()->CalcTextSizeA(size, 1000, 0, page.label.c_str()).x;
+    for (const auto& page : element.pages) labels += font->CalcTextSizeA(font->FontSize, 1000, 0, page.label.c_str()).x;
     const float margin = std::clamp((high.x - low.x - labels) / static_cast<float>(element.pages.size()), 4.0f, 22.0f);
     float x = low.x;
     for (std::size_t page = 0; page < element.pages.size(); ++page) {
         const std::string& label = element.pages[page].label;
-        const float width = ImGui::GetFont()->CalcTextSizeA(size, 1000, 0, label.c_str()).x + margin;
+        const float width = font->CalcTextSizeA(font->FontSize, 1000, 0, label.c_str()).x + margin;
         const auto number = static_cast<std::int32_t>(page);
         const ImVec2 tab_low{x, low.y + (number == notebook.active() ? 0.0f : 3.0f)},
             tab_high{x + width, low.y + height};
@@ -189,7 +185,7 @@ void OptionsView::DrawNotebook(const Element& element, ImVec2 low, ImVec2 high) 
         ImGui::PopID();
         const bool active = number == notebook.active();
         Box(tab_low, tab_high, Rgb(active ? kTabOpen : hovered ? 0x4A4434 : kTab), Rgb(kBorder));
-        Text(ImGui::GetFont(), size, tab_low, tab_high, label, Rgb(active ? 0xFFF4C8 : 0xBDB596), "center");
+        Text(font, tab_low, tab_high, label, Rgb(active ? 0xFFF4C8 : 0xBDB596), "center");
         if (pressed && !active) Do(element, "Change", {{"selected", number}});
         x += width;
     }
@@ -200,8 +196,8 @@ void OptionsView::DrawNotebook(const Element& element, ImVec2 low, ImVec2 high) 
 }
 
 void OptionsView::DrawText(const Element& element, ImVec2 low, ImVec2 high) {
-    Text(FontOf(element), FontSize(element), low, high, As<sim::SimStaticText>(element).text(),
-         ColorOf(element, Rgb(0xFFFFFF)), element.Text("justify"));
+    Text(FontOf(element), low, high, As<sim::SimStaticText>(element).text(), ColorOf(element, Rgb(0xFFFFFF)),
+         element.Text("justify"));
 }
 
 void OptionsView::DrawButton(const Element& element, ImVec2 low, ImVec2 high) {
@@ -209,8 +205,7 @@ void OptionsView::DrawButton(const Element& element, ImVec2 low, ImVec2 high) {
     const std::uint32_t face = ImGui::IsItemActive() ? 0xA8986C : ImGui::IsItemHovered() ? 0xDCCEA2 : kButton;
     ImGui::GetWindowDrawList()->AddRectFilled(low, high, Rgb(face), 3);
     ImGui::GetWindowDrawList()->AddRect(low, high, Rgb(0x6B5D36), 3);
-    Text(FontOf(element), FontSize(element), low, high, As<sim::SimPushButton>(element).text(),
-         ColorOf(element, Rgb(kInk)), "center");
+    Text(FontOf(element), low, high, As<sim::SimPushButton>(element).text(), ColorOf(element, Rgb(kInk)), "center");
     if (pressed) Do(element, "Accepted");
 }
 
@@ -219,7 +214,7 @@ void OptionsView::DrawCheckbox(const Element& element, ImVec2 low, ImVec2 high) 
     const bool pressed = Button(element, low, high);
     const float size = 12 * kScale * 0.85f;
     CheckMark({low.x, std::floor((low.y + high.y - size) / 2)}, size, box.checked());
-    Text(FontOf(element), FontSize(element), {low.x + sim::kCheckWidth * kScale, low.y}, high, element.Text("text"),
+    Text(FontOf(element), {low.x + sim::kCheckWidth * kScale, low.y}, high, element.Text("text"),
          ColorOf(element, Rgb(0xFFFFFF)), {});
     if (pressed) Do(element, "Change", {{"checked", !box.checked()}});
 }
@@ -265,7 +260,7 @@ void OptionsView::DrawChoice(const Element& element, ImVec2 low, ImVec2 high) {
                                                   middle + ImVec2(0, 4), Rgb(kInk));
     const auto& entries = choice.entries();
     if (choice.selected() >= 0 && static_cast<std::size_t>(choice.selected()) < entries.size())
-        Text(ImGui::GetFont(), FontSize(element), {low.x + 5, low.y}, {button.x, high.y},
+        Text(FontOf(element), {low.x + 5, low.y}, {button.x, high.y},
              entries[static_cast<std::size_t>(choice.selected())].text, Rgb(kInk), {});
     ImGui::PushID(&element);
     if (pressed) ImGui::OpenPopup("entries");
@@ -298,7 +293,7 @@ void OptionsView::DrawRow(const Element& element, std::int32_t row, ImVec2 low,
             case sim::SimList::ColumnKind::kText: {
                 Element look;
                 look.attributes = element.columns[column];
-                Text(FontOf(look), FontSize(look), cell + ImVec2(2, 0), end - ImVec2(2, 0),
+                Text(FontOf(look), cell + ImVec2(2, 0), end - ImVec2(2, 0),
                      std::get<std::string>(list.cell(number, row)),
                      FromBgr(list.color(number, row).value_or(sim::SimList::kOwnColor)), look.Text("justify"));
                 break;
@@ -379,7 +374,7 @@ void OptionsView::DrawProgress(const Element& element, ImVec2 low, ImVec2 high) 
     if (!element.Flag("drawtext")) return;
     const std::string text =
         std::string(element.Text("pretext")) + std::to_string(progress.value()) + std::string(element.Text("posttext"));
-    Text(FontOf(element), FontSize(element), low, high, text, ColorOf(element, Rgb(0xFFFFFF)), element.Text("align"));
+    Text(FontOf(element), low, high, text, ColorOf(element, Rgb(0xFFFFFF)), element.Text("align"));
 }
 
 void OptionsView::DrawSlider(const Element& element, ImVec2 low, ImVec2 high) {

@@ -3,6 +3,9 @@
 #include <cairo.h>
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <cmath>
+
 #include "apps/workbench/Style.h"
 
 namespace ombrel::workbench {
@@ -15,7 +18,8 @@ constexpr int kShift = 16, kControl = 17;                            // key code
 
 void SceneView::Draw(ImVec2 at, ImVec2 size) {
     constexpr ImGuiWindowFlags kFixed = ImGuiWindowFlags_NoDecoration | ImGuiWindowFlags_NoMove |
-                                        ImGuiWindowFlags_NoBringToFrontOnFocus | ImGuiWindowFlags_NoScrollWithMouse;
+                                        ImGuiWindowFlags_NoBringToFrontOnFocus | ImGuiWindowFlags_NoScrollWithMouse |
+                                        ImGuiWindowFlags_NoBackground;
     ImGui::SetNextWindowPos(at);
     ImGui::SetNextWindowSize(size);
     ImGui::PushStyleVar(ImGuiStyleVar_WindowPadding, {0, 0});
@@ -23,25 +27,42 @@ void SceneView::Draw(ImVec2 at, ImVec2 size) {
     const bool shown = ImGui::Begin("3D area", nullptr, kFixed);
     ImGui::PopStyleVar(2);
     if (shown) {
-        Fit(static_cast<int>(size.x), static_cast<int>(size.y));
+        Fit({std::floor(size.x), std::floor(size.y)});
         if (painted_ != game_.changes()) Paint();
-        ImGui::Image(texture_.id(), size);
+        const ImVec2 low{at.x + std::floor((size.x - Width() * scale_) / 2),
+                         at.y + std::floor((size.y - Height() * scale_) / 2)};
+        ImGui::SetCursorScreenPos(low);
+        ImGui::Image(texture_.id(), {Width() * scale_, Height() * scale_});
         ImGui::SetCursorScreenPos(at);
         ImGui::InvisibleButton("area", size);
         ImGui::SetItemAllowOverlap();
-        PassMouse(at);
+        PassMouse(low);
         if (!game_.in_world() && !game_.script()) DrawEntrance(at, size);
     }
     ImGui::End();
 }
 
-// The game's window is as large as the picture of it.
-void SceneView::Fit(int width, int height) {
+float SceneView::Width() const {
     const host::Rect& region = game_.client().hooks.Region3D;
-    width_ = width;
-    height_ = height;
-    if (game_.script() || (region.right - region.left == width && region.bottom - region.top == height)) return;
-    game_.Do({{"event", "ACHooks_AC3DRegionChanged"}, {"left", 0}, {"top", 0}, {"right", width}, {"bottom", height}});
+    return static_cast<float>(std::max(1, region.right - region.left));
+}
+
+float SceneView::Height() const {
+    const host::Rect& region = game_.client().hooks.Region3D;
+    return static_cast<float>(std::max(1, region.bottom - region.top));
+}
+
+// The game's window is as large as the picture of it. A session at play has its own size, which is shown as large as it
+// goes.
+void SceneView::Fit(ImVec2 size) {
+    if (!game_.script() && (Width() != size.x || Height() != size.y)) {
+        game_.Do({{"event", "ACHooks_AC3DRegionChanged"},
+                  {"left", 0},
+                  {"top", 0},
+                  {"right", static_cast<int>(size.x)},
+                  {"bottom", static_cast<int>(size.y)}});
+    }
+    scale_ = std::min(size.x / Width(), size.y / Height());
 }
 
 void SceneView::Paint() {
@@ -49,7 +70,7 @@ void SceneView::Paint() {
     cairo_surface_t* surface = picture.surface();
     cairo_surface_flush(surface);
     texture_.Put(cairo_image_surface_get_data(surface), picture.width(), picture.height(),
-                 cairo_image_surface_get_stride(surface));
+                 cairo_image_surface_get_stride(surface), scale_ != 1.0f);
     painted_ = game_.changes();
 }
 
@@ -58,9 +79,8 @@ void SceneView::PassMouse(ImVec2 at) {
     const bool held = ImGui::IsItemActive();
     if (!game_.in_world() || (!ImGui::IsItemHovered() && !held && !pressed_)) return;
     const host::Rect& region = game_.client().hooks.Region3D;
-    const float scale = static_cast<float>(region.right - region.left) / static_cast<float>(std::max(1, width_));
-    const int x = region.left + static_cast<int>((io.MousePos.x - at.x) * scale);
-    const int y = region.top + sim::kBarHeight + static_cast<int>((io.MousePos.y - at.y) * scale);
+    const int x = region.left + static_cast<int>((io.MousePos.x - at.x) / scale_);
+    const int y = region.top + sim::kBarHeight + static_cast<int>((io.MousePos.y - at.y) / scale_);
     const auto send = [&](int message) {
         game_.Do({{"event", "WindowMessage"}, {"message", message}, {"x", x}, {"y", y}});
     };

@@ -18,7 +18,9 @@ public:
     void Draw(ImVec2 at, ImVec2 size);
 
 private:
-    void Fit(int width, int height);
+    void Fit(ImVec2 size);
+    float Width() const;  // of the game's window, in its pixels
+    float Height() const;
     void Paint();
     void PassMouse(ImVec2 at);
     void DrawEntrance(ImVec2 at, ImVec2 size);
@@ -27,7 +29,7 @@ private:
     sim::HudScreen& screen_;
     Texture texture_;
     std::uint64_t painted_ = ~std::uint64_t{0};  // the game's changes when it was painted last
-    int width_ = 0, height_ = 0;
+    float scale_ = 1;                            // pixels here for one of the game's window
     ImVec2 mouse_{-1, -1};
     bool pressed_ = false;
 };

@@ -2,7 +2,9 @@
 
 #include <fontconfig/fontconfig.h>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <memory>
 #include <string>
 
@@ -11,9 +13,18 @@
 namespace ombrel::workbench {
 namespace {
 
-constexpr float kFontSize = 15.0f;
+struct FontRow {
+    float size;  // in pixels
+    Weight weight;
+    ImFont* font = nullptr;
+};
 
-ImFont* bold = nullptr;
+// The first serves where nobody asks for another.
+std::array fonts = {
+    FontRow{15, Weight::kRegular}, FontRow{15, Weight::kBold},    FontRow{10, Weight::kRegular},
+    FontRow{14, Weight::kRegular}, FontRow{14, Weight::kBold},    FontRow{16, Weight::kRegular},
+    FontRow{16, Weight::kBold},    FontRow{18, Weight::kRegular},
+};
 
 // The file of a font that fits; empty when the system has none.
 std::string FontFile(const char* pattern) {
@@ -29,12 +40,12 @@ std::string FontFile(const char* pattern) {
     return reinterpret_cast<const char*>(file);
 }
 
-ImFont* LoadFont(const char* pattern) {
+ImFont* LoadFont(const char* pattern, float size) {
     static constexpr std::array<ImWchar, 7> kLetters = {0x20, 0x17F, 0x2010, 0x2122, 0x25A0, 0x25FF, 0};
     ImFontAtlas& atlas = *ImGui::GetIO().Fonts;
     const std::string file = FontFile(pattern);
     return file.empty() ? atlas.AddFontDefault()
-                        : atlas.AddFontFromFileTTF(file.c_str(), kFontSize, nullptr, kLetters.data());
+                        : atlas.AddFontFromFileTTF(file.c_str(), size, nullptr, kLetters.data());
 }
 
 void Color(ImGuiCol place, std::uint32_t rgb, std::uint32_t alpha = 255) {
@@ -43,7 +54,14 @@ void Color(ImGuiCol place, std::uint32_t rgb, std::uint32_t alpha = 255) {
 
 }  // namespace
 
-ImFont* BoldFont() { return bold; }
+ImFont* FontFor(float size, Weight weight) {
+    const auto distance = [=](const FontRow& row) {
+        return std::abs(row.size - size) + (row.weight == weight ? 0.0f : 100.0f);
+    };
+    return std::ranges::min_element(fonts, {}, distance)->font;
+}
+
+ImFont* BoldFont() { return FontFor(15, Weight::kBold); }
 
 ImU32 ChatColor(std::int32_t type) {
     const bool known = type >= 0 && static_cast<std::size_t>(type) < sim::kChatColors.size();
@@ -51,8 +69,10 @@ ImU32 ChatColor(std::int32_t type) {
 }
 
 void ApplyStyle() {
-    LoadFont("Liberation Sans");
-    bold = LoadFont("Liberation Sans:bold");
+    for (FontRow& row : fonts)
+        row.font = LoadFont(row.weight == Weight::kBold ? "Liberation Sans:bold" : "Liberation Sans", row.size);
+    // Pixels are not mixed when they are drawn, see Window::Draw.
+    ImGui::GetIO().Fonts->Flags |= ImFontAtlasFlags_NoBakedLines;
 
     ImGui::StyleColorsDark();
     ImGuiStyle& style = ImGui::GetStyle();
@@ -95,6 +115,7 @@ void ApplyStyle() {
     Color(ImGuiCol_ScrollbarGrab, 0x4A4330);
     Color(ImGuiCol_Separator, 0x4A4330);
     Color(ImGuiCol_TextSelectedBg, 0x7A6A36);
+    Color(ImGuiCol_PlotHistogram, 0x6B5D36);
 }
 
 }  // namespace ombrel::workbench

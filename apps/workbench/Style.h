@@ -10,6 +10,10 @@ namespace ombrel::workbench {
 // Loads the fonts and sets the colours, once, after the window stands.
 void ApplyStyle();
 
+enum class Weight { kRegular, kBold };
+
+// The font whose size, in pixels, is nearest. It is drawn at its own size only, where letters are sharp.
+ImFont* FontFor(float size, Weight weight);
 ImFont* BoldFont();
 
 constexpr ImU32 Rgb(std::uint32_t rgb, std::uint32_t alpha = 255) {

@@ -7,6 +7,7 @@
 #include <imgui.h>
 
 #include <algorithm>
+#include <cfloat>
 #include <stdexcept>
 #include <vector>
 
@@ -17,20 +18,22 @@ constexpr const char* kShaders = "#version 130";
 
 [[noreturn]] void Refuse(const char* what) { throw std::runtime_error(std::string(what) + ": " + SDL_GetError()); }
 
+// How pixels of the texture at work become pixels of the window.
+void Filter(GLint filter) {
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, filter);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, filter);
+}
+
 }  // namespace
 
 Texture::~Texture() {
     if (name_ != 0) glDeleteTextures(1, &name_);
 }
 
-void Texture::Put(const unsigned char* pixels, int width, int height, int stride) {
-    const bool fresh = name_ == 0;
-    if (fresh) glGenTextures(1, &name_);
+void Texture::Put(const unsigned char* pixels, int width, int height, int stride, bool scaled) {
+    if (name_ == 0) glGenTextures(1, &name_);
     glBindTexture(GL_TEXTURE_2D, name_);
-    if (fresh) {
-        glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
-        glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
-    }
+    Filter(scaled ? GL_LINEAR : GL_NEAREST);
     glPixelStorei(GL_UNPACK_ROW_LENGTH, stride / 4);
     if (width == width_ && height == height_)
         glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, width, height, GL_BGRA, GL_UNSIGNED_BYTE, pixels);
@@ -87,16 +90,38 @@ bool Window::Events(std::chrono::milliseconds wait) {
         ImGui_ImplSDL2_ProcessEvent(&event);
         if (event.type == SDL_QUIT) open_ = false;
         Stir();
-        // ImGui sees keys and buttons once a frame: one that goes down and up again needs two.
-        if (event.type == SDL_KEYDOWN || event.type == SDL_KEYUP || event.type == SDL_MOUSEBUTTONUP) break;
+        // ImGui looks at keys and buttons once a frame: each change of one needs a frame of its own.
+        const bool key = event.type == SDL_KEYDOWN || event.type == SDL_KEYUP;
+        if (FollowMouse(event) || key) break;
         any = SDL_PollEvent(&event) == 1;
     }
     return open_;
 }
 
+// The mouse as the events tell it, since the system only knows where it is by now. True when a button changed.
+bool Window::FollowMouse(const SDL_Event& event) {
+    if (event.type == SDL_MOUSEMOTION) mouse_ = {event.motion.x, event.motion.y};
+    const bool left = event.type == SDL_WINDOWEVENT && event.window.event == SDL_WINDOWEVENT_LEAVE;
+    if (left && std::ranges::find(buttons_, true) == buttons_.end()) mouse_.reset();
+    if (event.type != SDL_MOUSEBUTTONDOWN && event.type != SDL_MOUSEBUTTONUP) return false;
+    mouse_ = {event.button.x, event.button.y};
+    const bool down = event.type == SDL_MOUSEBUTTONDOWN;
+    if (event.button.button == SDL_BUTTON_LEFT) buttons_[ImGuiMouseButton_Left] = down;
+    if (event.button.button == SDL_BUTTON_RIGHT) buttons_[ImGuiMouseButton_Right] = down;
+    if (event.button.button == SDL_BUTTON_MIDDLE) buttons_[ImGuiMouseButton_Middle] = down;
+    return true;
+}
+
 void Window::Draw(const std::function<void()>& content) {
     ImGui_ImplOpenGL3_NewFrame();
+    // Letters come in the size that they are drawn in. Mixing pixels costs a renderer without a graphics card a lot.
+    glBindTexture(GL_TEXTURE_2D, static_cast<GLuint>(reinterpret_cast<std::uintptr_t>(ImGui::GetIO().Fonts->TexID)));
+    Filter(GL_NEAREST);
     ImGui_ImplSDL2_NewFrame();
+    ImGuiIO& io = ImGui::GetIO();
+    io.MousePos =
+        mouse_ ? ImVec2(static_cast<float>(mouse_->x), static_cast<float>(mouse_->y)) : ImVec2(-FLT_MAX, -FLT_MAX);
+    std::ranges::copy(buttons_, io.MouseDown);
     ImGui::NewFrame();
     content();
     ImGui::Render();

@@ -3,9 +3,11 @@
 
 #include <SDL.h>
 
+#include <array>
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace ombrel::workbench {
@@ -18,8 +20,8 @@ public:
     Texture(const Texture&) = delete;
     Texture& operator=(const Texture&) = delete;
 
-    // Rows of 32-bit pixels, blue first, alpha multiplied in.
-    void Put(const unsigned char* pixels, int width, int height, int stride);
+    // Rows of 32-bit pixels, blue first, alpha multiplied in. `scaled`: it will be shown in another size.
+    void Put(const unsigned char* pixels, int width, int height, int stride, bool scaled);
 
     void* id() const;  // ImTextureID; nothing before the first picture
     int width() const { return width_; }
@@ -51,6 +53,7 @@ public:
     void WritePicture(const std::string& path) const;
 
 private:
+    bool FollowMouse(const SDL_Event& event);
     void Render() const;
 
     static constexpr int kSettling = 3;  // frames until ImGui has settled
@@ -60,6 +63,8 @@ private:
     };
     std::unique_ptr<SDL_Window, Destroy> window_;
     SDL_GLContext context_ = nullptr;
+    std::optional<SDL_Point> mouse_;  // while it is over the window
+    std::array<bool, 3> buttons_{};   // held, in ImGui's order
     int stirred_ = kSettling;
     bool open_ = true;
 };

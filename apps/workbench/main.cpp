@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <vector>
 
@@ -57,12 +58,52 @@ Folders FoldersOf(const Options& options) {
     return folders;
 }
 
+double Milliseconds(Moment::duration time) { return std::chrono::duration<double, std::milli>(time).count(); }
+
+// What frames take, beside frames with nothing in them: the window system and the renderer alone. Processor time
+// counts all threads of the program; on a busy machine it says more than the clock on the wall.
+class FrameTimes {
+public:
+    void Add(Moment::duration taken) {
+        if (frames_++ == 0) {
+            first_ = Moment::now();
+            used_ = std::clock();
+        }
+        taken_ += taken;
+    }
+
+    void Tell(Window& window) const {
+        constexpr int kEmpty = 60;
+        const Moment::time_point end = Moment::now();
+        const std::clock_t used = std::clock();
+        for (int frame = 0; frame < kEmpty; ++frame) window.Draw([] {});
+        const double empty = Milliseconds(Moment::now() - end) / kEmpty;
+        const double empty_used = Used(std::clock() - used) / kEmpty;
+        const double count = static_cast<double>(frames_);
+        const double each = Milliseconds(taken_) / count, each_used = Used(used - used_) / count;
+        fmt::print("first picture     {:6.0f} ms after the start\n", Milliseconds(first_ - kStarted));
+        fmt::print("frames a second   {:6.0f}\n", count * 1000 / Milliseconds(end - first_));
+        fmt::print("a frame           {:6.2f} ms, an empty one {:.2f} ms: {:.1f} times\n", each, empty, each / empty);
+        fmt::print("  processor time  {:6.2f} ms, an empty one {:.2f} ms: {:.1f} times\n", each_used, empty_used,
+                   each_used / empty_used);
+    }
+
+private:
+    static double Used(std::clock_t time) { return static_cast<double>(time) * 1000 / CLOCKS_PER_SEC; }
+
+    static inline const Moment::time_point kStarted = Moment::now();
+    Moment::time_point first_;
+    std::clock_t used_ = 0;
+    Moment::duration taken_{};
+    std::uint64_t frames_ = 0;
+};
+
 // Wakes up for the player, and for the game's clock; draws when there is something new to see.
 void Live(Window& window, Game& game, Workbench& workbench, const Options& options) {
     const Moment::time_point start = Moment::now();
     Moment::time_point passed = start, drawn{};
-    std::uint64_t changes = 0, frames = 0;
-    double busy = 0;
+    std::uint64_t changes = 0;
+    FrameTimes times;
     while (window.Events(options.frame_times ? milliseconds(0) : kTick)) {
         const Moment::time_point now = Moment::now();
         game.Pass(now - passed);
@@ -71,17 +112,13 @@ void Live(Window& window, Game& game, Workbench& workbench, const Options& optio
             changes = game.changes();
             drawn = now;
             window.Draw([&workbench] { workbench.Draw(); });
-            ++frames;
-            busy += std::chrono::duration<double>(Moment::now() - now).count();
+            times.Add(Moment::now() - now);
         }
         if (workbench.quit()) break;
         if (options.seconds > 0 && std::chrono::duration<double>(now - start).count() > options.seconds) break;
     }
-    if (options.frame_times && frames > 0) {
-        fmt::print("{} frames, {:.2f} ms each, {:.0f} a second\n", frames, busy * 1000 / static_cast<double>(frames),
-                   static_cast<double>(frames) / std::chrono::duration<double>(Moment::now() - start).count());
-    }
     if (!options.picture.empty()) window.WritePicture(options.picture);
+    if (options.frame_times) times.Tell(window);
 }
 
 void Run(const Options& options) {
@@ -94,11 +131,11 @@ void Run(const Options& options) {
     game.sound = [&sounds](const std::string& path, bool loop, bool stop) {
         stop ? sounds.Stop(path) : sounds.Play(path, loop);
     };
+    if (!options.save.empty()) game.KeepJournal(options.save);
     if (!options.session.empty() && !game.Play(options.session)) throw std::runtime_error(game.notice);
     Workbench workbench(game, screen, Sessions().string());
     Live(window, game, workbench, options);
     game.sound = nullptr;
-    if (!options.save.empty() && !game.Save(options.save)) throw std::runtime_error(game.notice);
 }
 
 }  // namespace

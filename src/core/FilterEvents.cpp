@@ -24,6 +24,7 @@
 #include "hud/HUDStatusHandler.h"
 #include "hud/HUDTargetHandler.h"
 #include "input/DHSHandler.h"
+#include "spells/SpellFilterHandler.h"
 #include "spells/SpellHandler.h"
 #include "stats/NetEchoHandler.h"
 #include "stats/Statistics.h"
@@ -120,6 +121,15 @@ bool TargetIs(host::Id id) {
 
 }  // namespace
 
+// What of the framework's is not there, told once: the reports of the start find no chat yet.
+void TellMissing() {
+    if (!Vars::SpellFilterHandler->HasTable())
+        wtcw_error("The framework's spell table is missing: spells have no names and no timers.");
+    if (!Vars::NetEchoHandler->NetEcho)
+        wtcw_error("The framework's echo filter is missing: nobody counts experience or follows the chat windows.");
+    if (Vars::HudFailed) wtcw_error("The framework's render service is missing or at fault: the displays stay off.");
+}
+
 // The order is a requirement: each step uses what the ones before it have brought.
 void FilterHandler::Char_LoginComplete() try {
     ControlHandler& options = *Vars::ControlHandler;
@@ -142,6 +152,7 @@ void FilterHandler::Char_LoginComplete() try {
     }
     StartHotkeys();
     if (!Vars::HudFailed) CreateHUDs();
+    TellMissing();
     ReadAugmentation(*CharStats, kArchmagesEndurance, "Archmage's Endurance");
 
     Vars::Loaded = true;  // from here on the other events act

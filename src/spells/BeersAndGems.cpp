@@ -23,8 +23,6 @@ constexpr double kRefillThreshold = 120.0;  // seconds, where the option holds n
 // A gem that is picked up later is not seen before the next login.
 void SpellHandler::InitSpells() try {
     auto& filter = *Vars::FilterHandler;
-    if (!Vars::SpellFilterHandler->HasTable())
-        wtcw_error("The framework's spell table is missing: spells have no names and no timers.");
     lBenediction = filter.GetIDinInv(std::string(kBenediction.item));
     if (lBenediction != -1) wtcw_debug("Asheron's Benediction gem found");
     lFavor = filter.GetIDinInv(std::string(kFavor.item));

@@ -49,6 +49,7 @@ TEST_F(RenderServiceTest, WithoutTheServiceThePluginWorks) {
     LogIn();
     EXPECT_TRUE(Vars::HudFailed);
     EXPECT_THAT(TakeReports(), ElementsAre(HasSubstr("Error #429 occured in 'Class_Initialize'")));
+    EXPECT_THAT(Texts(), Contains(HasSubstr("render service is missing")).Times(1));
     EXPECT_THAT(Texts(), Contains(HasSubstr("Plugin Loaded")));
     Play();
     EXPECT_THAT(paper.Take(), IsEmpty());

@@ -303,6 +303,7 @@ TEST_F(NetEchoHandlerTest, WithoutTheEchoThePlayerIsToldAndPlaysOn) {
     client.Start();
     EXPECT_THAT(TakeReports(), ElementsAre(testing::HasSubstr("'Class_Initialize' of class 'NetEchoHandler'")));
     client.LoginComplete();
+    EXPECT_THAT(Texts(), testing::Contains(testing::HasSubstr("echo filter is missing")).Times(1));
     EXPECT_THAT(TakeReports(), IsEmpty());
 }
 
