@@ -7,11 +7,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
-
 constexpr host::Id kTool = 1, kPea = 2, kAle = 3;
 constexpr host::Id kSelf = 0x50000A01;
 constexpr const char* kLink = " to the event queue. <Tell:IIDString:463072:[Ombrel]>Run queued events.<\\Tell>";
@@ -77,7 +72,7 @@ TEST_F(EventQueueTest, EntriesWaitForTheLinkTheCommandOrTheHotkey) {
         EXPECT_EQ(Beat(), 200);
         EXPECT_THAT(Applied(), ElementsAre(splitting));
         EXPECT_TRUE(client.ChatParser("/m clearevents"));
-        EXPECT_THAT(Texts(), testing::Contains("<Ombrel> Event Queue Cleared"));
+        EXPECT_THAT(Texts(), Contains("<Ombrel> Event Queue Cleared"));
         EXPECT_EQ(queue().running, 0);
         EXPECT_EQ(Beat(), 200);
         Advance(400ms);  // the result of the last is waited for, then the queue is empty

@@ -10,12 +10,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
-
 constexpr std::int32_t kSlots = 10, kValue = 19, kMana = 107, kMaximum = 108, kRate = 5;
 constexpr const char* kNothingFound = "<Ombrel> Warning: Could not find anything to charge your items with!";
 

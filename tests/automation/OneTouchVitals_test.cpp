@@ -12,11 +12,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-
 constexpr std::int32_t kRestoredVital = 89, kRestored = 90, kUses = 92, kRegen = 100;
 
 class VitalsTest : public PluginTest {

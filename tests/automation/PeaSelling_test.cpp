@@ -7,10 +7,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 constexpr std::int32_t kStack = host::key::kStackCount, kFull = host::key::kStackMaximum;
 constexpr host::Id kPurse = 10, kPeas = 20, kWare = 90, kNote = 50, kOldNotes = 51;
 constexpr const char* kNoteName = "Trade Note (250,000)";
@@ -94,7 +90,7 @@ TEST_F(PeaTest, ARoundSellsPeasBuysANoteAndStacksIt) {
     EXPECT_EQ(filter().TradeNoteId, 0);
     client.object(kPurse).Long[kStack] = 0;
     EXPECT_THAT(Step(), Contains("Pyreal Count: 0, Needed Pyreals: 287500"));
-    EXPECT_THAT(Texts(), Contains(testing::HasSubstr("Selecting Item: 21"))) << "40 peas are more than 12";
+    EXPECT_THAT(Texts(), Contains(HasSubstr("Selecting Item: 21"))) << "40 peas are more than 12";
 }
 
 TEST_F(PeaTest, WithoutAStackToJoinTheNoteIsLeftAlone) {

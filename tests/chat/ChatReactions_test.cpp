@@ -6,10 +6,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-
 using ChatReactionsTest = ChatTest;
 
 constexpr host::Id kGuardian = 0x7000;
@@ -62,7 +58,7 @@ TEST_F(ChatReactionsTest, TheLineOfLowManaTellsThatItIsTakenCareOf) {
     options().FillMana->SetChecked(false);
     EXPECT_TRUE(Shown(text, 7));
     options().FillMana->SetChecked(true);
-    EXPECT_THAT(Written(text, 7), testing::Contains(Line{text + " Preparing to autofill your items...", 7, 1}));
+    EXPECT_THAT(Written(text, 7), Contains(Line{text + " Preparing to autofill your items...", 7, 1}));
     EXPECT_TRUE(Shown(text, 2));
 }
 
@@ -84,7 +80,7 @@ TEST_F(ChatReactionsTest, BurntComponentsAreCountedAndLowOnesSplitFromPeas) {
     EXPECT_THAT(Written(begin + "Hyssop, Lead Scarab, Yarrow.", 7),
                 ElementsAre(Line{begin + "Hyssop (40), Lead Scarab (7), Yarrow. (0)", 7, 1}));
     EXPECT_THAT(Written(begin, 7), ElementsAre(Line{begin + " (0)", 7, 1}));
-    EXPECT_THAT(Texts(), testing::Not(testing::Contains(HasSubstr("event queue"))));
+    EXPECT_THAT(Texts(), Not(Contains(HasSubstr("event queue"))));
 
     options().SplitPeas->SetChecked(true);
     options().PeaThreshold->SetText("8");

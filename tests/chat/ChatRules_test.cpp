@@ -6,10 +6,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
-
 using ChatRulesTest = ChatTest;
 
 TEST_F(ChatRulesTest, FilterWordsAreMaskedWhereTheyStandExactly) {
@@ -148,7 +144,7 @@ TEST_F(ChatRulesTest, ActionsAreLinesOfTheirOwnOrCommands) {
 
 TEST_F(ChatRulesTest, AnActionWithoutItsBracketFailsTheLine) {
     CustomRule("ping", "M", "2", "Red", "[7 Hello;/f never");
-    EXPECT_THAT(Written("ping", 2), testing::Contains(Line{"ping", 21, 1}));
+    EXPECT_THAT(Written("ping", 2), Contains(Line{"ping", 21, 1}));
     EXPECT_THAT(shown, IsEmpty());
     EXPECT_THAT(TakeReports(), ElementsAre("Error #9 occured in 'IncomingText' of class 'ChatTextHandler'"));
     EXPECT_THAT(Commands(), IsEmpty());

@@ -1,11 +1,7 @@
 // The example sessions, as a player lives them: what is told at the end of the evening must be what happened.
 #include <fmt/format.h>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
-
+#include "core/files.h"
 #include "stats/Statistics.h"
 #include "tests/replay/Replay.h"
 #include "tests/support/PluginTest.h"
@@ -14,22 +10,10 @@ namespace ombrel::test {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::IsSupersetOf;
-using testing::Not;
-
-std::string ReadWhole(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 class ChatStories : public testing::Test {
 protected:
     ChatStories() : replay("chat,command,input") {
-        replay.client.LoadSpells(OMBREL_SOURCE_DIR "/resources/sim/spells.tsv");
         replay.client.chat_listener = [this](const sim::Client::ChatLine& line) {
             std::string text = line.text;
             if (text.ends_with('\n')) text.pop_back();
@@ -38,7 +22,7 @@ protected:
     }
 
     void Play(const std::string& name) {
-        replay.Play(ReadWhole(fs::path(OMBREL_SOURCE_DIR) / "sessions" / (name + ".jsonl")));
+        replay.PlayStory(name);
         for (const std::string& record : replay.Output()) {
             const sim::Json output = sim::Json::parse(record);
             const std::string call = output.value("call", "");
@@ -49,7 +33,8 @@ protected:
     }
 
     std::string Document(const std::string& file) const {
-        return ReadWhole(replay.folder.path / "documents/Asheron's Call" / file);
+        const std::string path = (replay.folder.path / "documents/Asheron's Call" / file).string();
+        return FileExists(path) ? ReadFile(path) : "";
     }
 
     sim::Replay replay;

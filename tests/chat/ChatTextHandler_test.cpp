@@ -7,10 +7,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
-
 using ChatTextHandlerTest = ChatTest;
 
 TEST_F(ChatTextHandlerTest, ColourNamesHaveTheClientsNumbersAndMarkers) {

@@ -9,10 +9,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-
 class IncomingTextTest : public ChatTest {
 protected:
     // Every rule in a colour and to a window of its own would need more windows than there are: its sound names it.
@@ -119,7 +115,7 @@ TEST_F(IncomingTextTest, BeforeLoginOnlyChannelEntriesAreKeptFromThePlayer) {
 TEST_F(IncomingTextTest, EachWayOfRulingALineHasItsOutcome) {
     LogEverything();
     ShowType(2, {0, 2});
-    const auto log = [](std::vector<std::string> expected) { return testing::ElementsAreArray(expected); };
+    const auto log = [](std::vector<std::string> expected) { return ElementsAreArray(expected); };
 
     EXPECT_TRUE(Shown("plain", 2));
     EXPECT_THAT(lines, IsEmpty());

@@ -1,26 +1,19 @@
 #include "chat/LogFile.h"
 
 #include <fmt/format.h>
-#include <signal.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <cstdlib>
+#include <optional>
 #include <pugixml.hpp>
-#include <random>
 
 #include "chat/LogDocument.h"
 #include "core/failure.h"
+#include "tests/support/Mishaps.h"
 #include "tests/support/PluginTest.h"
 
 namespace ombrel::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 constexpr std::int32_t kNoon = 1141560000;  // 5 March 2006, 12:00:00
 constexpr const char* kHead = "<?xml-stylesheet type=\"text/xsl\" href=\"style/ombrellog.xsl\"?><Log>\r";
@@ -52,26 +45,6 @@ protected:
             if (entry.is_regular_file() && entry.path().filename() != name) names.push_back(entry.path().filename());
         return names;
     }
-};
-
-// While it lives, no file of the process can grow beyond a few thousand bytes: a disk that is full.
-class FullDisk {
-public:
-    FullDisk() : before_handler_(signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit tight = {4096, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &tight);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        signal(SIGXFSZ, before_handler_);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    void (*before_handler_)(int);
-    rlimit before_{};
 };
 
 TEST_F(LogFileTest, TextLinesEndInCrLfInTheGamesCharactersAndHaveADateWhenWanted) {
@@ -149,7 +122,7 @@ TEST_F(LogFileTest, AnXmlLogThatIsOpenedAgainGoesOnWhereItEnded) {
         EXPECT_EQ(documents.Read(log.name).substr(0, log.begins.size()), log.begins);
     }
     EXPECT_TRUE(documents.Read("foreign.xml").ends_with("</Message>\r</Chat>\n<!-- end -->\n"));
-    EXPECT_THAT(FilesBeside(""), testing::SizeIs(std::size(kLogs))) << "a copy of a good log";
+    EXPECT_THAT(FilesBeside(""), SizeIs(std::size(kLogs))) << "a copy of a good log";
 }
 
 TEST_F(LogFileTest, NoFinishedLineIsLostWhereverACrashCutsTheLog) {
@@ -184,7 +157,7 @@ TEST_F(LogFileTest, WhatIsNoLogIsKeptBesideIt) {
         EXPECT_THAT(FilesBeside("a.xml"), ElementsAre("a (not a log 2006-03-05).xml")) << foreign;
         EXPECT_EQ(documents.Read("a (not a log 2006-03-05).xml"), foreign);
         log.Write({Said("new")});
-        EXPECT_THAT(Messages("a.xml"), testing::Contains("new"));
+        EXPECT_THAT(Messages("a.xml"), Contains("new"));
         std::filesystem::remove(documents.path() / "a (not a log 2006-03-05).xml");
     }
 }
@@ -235,31 +208,22 @@ TEST_F(LogFileTest, AFullDiskLeavesBothLogsAsTheyWere) {
 }
 
 TEST_F(LogFileTest, AKillInTheMidstOfWritingLosesNoLineThatWasWritten) {
-    const char* wanted = std::getenv("OMBREL_KILLS");
-    const int kills = wanted ? std::atoi(wanted) : 20;
-    std::mt19937 random(std::random_device{}());
     std::size_t expected = 0;
-    for (int kill_number = 0; kill_number < kills; ++kill_number) {
+    for (int kill = 0; kill < Kills(); ++kill) {
         int done[2];
         ASSERT_EQ(pipe(done), 0);
-        const auto child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            XmlLog log(Path("a.xml"));
-            for (auto number = expected;; ++number) {
-                log.Write({Said(fmt::format("{} {}", number, std::string(20'000, 'x')))});
-                if (write(done[1], "x", 1) != 1) _exit(1);
-            }
-        }
+        std::optional<XmlLog> log;
+        KillWhileDoing([&](int i) {
+            if (!log) log.emplace(Path("a.xml"));
+            log->Write({Said(fmt::format("{} {}", expected + static_cast<std::size_t>(i), std::string(20'000, 'x')))});
+            if (write(done[1], "x", 1) != 1) _exit(1);
+        });
         close(done[1]);
-        usleep(static_cast<useconds_t>(random() % 8000));
-        kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
         char byte;
         while (read(done[0], &byte, 1) == 1) ++expected;
         close(done[0]);
 
-        XmlLog log(Path("a.xml"));
+        log.emplace(Path("a.xml"));
         if (expected == 0 && !FileExists(Path("a.xml"))) continue;  // killed before its first line
         const auto messages = Messages("a.xml");
         ASSERT_GE(messages.size(), expected);

@@ -15,12 +15,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
-
 constexpr const char* kAllClasses[] = {
     "Open Chat", "Tells",       "Fellowship", "Patron/Covassal", "Vassal", "Allegiance", "Channels",
     "Vitae",     "Magic",       "Spellwords", "Combat",          "System", "Recalls",    "Tinkers",
@@ -383,8 +377,8 @@ TEST_F(LogHandlerTest, TheLinesThatWaitAreBounded) {
     for (int i = 0; i < 10'005; ++i) log().AddToLog(fmt::format("{}.", i), 2, 2);
     EXPECT_THAT(Texts(), ElementsAre(HasSubstr("oldest lines are lost")));
     log().WriteFileLog();
-    EXPECT_THAT(Logged("evening.txt"), testing::StartsWith("5.\r\n6.\r\n"));
-    EXPECT_THAT(Logged("evening.txt"), testing::EndsWith("\r\n10004.\r\n"));
+    EXPECT_THAT(Logged("evening.txt"), StartsWith("5.\r\n6.\r\n"));
+    EXPECT_THAT(Logged("evening.txt"), EndsWith("\r\n10004.\r\n"));
 }
 
 std::size_t MemoryInUse() {

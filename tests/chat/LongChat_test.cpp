@@ -6,10 +6,8 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <cstdlib>
 #include <functional>
-#include <vector>
 
 #include "chat/LogHandler.h"
 #include "tests/chat/ChatTest.h"
@@ -22,9 +20,6 @@ constexpr bool kInstrumented = false;
 
 namespace ombrel::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 class LongChat : public ChatTest {
 protected:
@@ -104,7 +99,7 @@ TEST_F(LongChat, ARuleThatFeedsItselfStaysFarFromTheEndOfTheStack) {
         buffer[0] = 1;
         EXPECT_EQ(buffer[0], 1);
     };
-    ASSERT_THAT(StackOf(sixty_four), testing::AllOf(testing::Gt(64U << 10), testing::Lt(80U << 10))) << "measures it";
+    ASSERT_THAT(StackOf(sixty_four), AllOf(testing::Gt(64U << 10), testing::Lt(80U << 10))) << "measures it";
 
     const std::string line = "Again and again and again.";
     const std::size_t once = StackOf([&] { Shown(line, 2); });

@@ -5,12 +5,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::ElementsAreArray;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
-
 class OutgoingTextTest : public ChatTest {
 protected:
     void SetUp() override {
@@ -103,7 +97,7 @@ TEST_F(OutgoingTextTest, SwitchesTellTheirNewState) {
         {"/m debugsilent", "Debug mode toggled! True"},
         {"/m debugsilent", "Debug mode toggled! False"},
     };
-    for (const auto& [command, answer] : rows) EXPECT_THAT(Answer(command), testing::Contains(answer)) << command;
+    for (const auto& [command, answer] : rows) EXPECT_THAT(Answer(command), Contains(answer)) << command;
     Vars::DebugMode = true;
     EXPECT_THAT(Answer("/m debugsilent"), ElementsAre("Debug mode toggled! True"));
     Vars::DebugMode = Vars::DebugSilent = false;
@@ -128,7 +122,7 @@ TEST_F(OutgoingTextTest, ThingsAreNamedSoughtAndAsked) {
 
 TEST_F(OutgoingTextTest, ALogIsOpenedUnderTheNameAsTyped) {
     EXPECT_THAT(Answer("/m log Hunt in Dires"),
-                ElementsAre(testing::AllOf(HasSubstr("Now logging to "), HasSubstr("\\Logs\\Hunt in Dires"))));
+                ElementsAre(AllOf(HasSubstr("Now logging to "), HasSubstr("\\Logs\\Hunt in Dires"))));
     EXPECT_THAT(Answer("/m log other"),
                 ElementsAre("Logging is currently in progress, close the current file before opening a new one"));
     EXPECT_THAT(Answer("/m log"), ElementsAre("Closing log file"));
@@ -153,7 +147,7 @@ TEST_F(OutgoingTextTest, ColoursAndExperienceArePrinted) {
     EXPECT_EQ(lines.size(), 41u);
     EXPECT_EQ(lines.back(), (Line{"This is color 40", 40, 1}));
     Answer("/m testcolors");
-    EXPECT_THAT(CallsOf("ChatOut"), testing::Contains("ChatOut text=This is color 0 color=0 window=0"));
+    EXPECT_THAT(CallsOf("ChatOut"), Contains("ChatOut text=This is color 0 color=0 window=0"));
 
     const auto table = Answer("/m listxp");
     ASSERT_THAT(table, SizeIs(273));

@@ -1,9 +1,6 @@
 // The pages of chat colours, rules, words and aliases.
 #include <fmt/format.h>
 
-#include <string>
-#include <vector>
-
 #include "chat/ChatTextHandler.h"
 #include "config/ControlTools.h"
 #include "core/cells.h"
@@ -11,10 +8,6 @@
 
 namespace ombrel::test {
 namespace {
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class ChatControlsTest : public ViewTest {
 protected:
@@ -57,7 +50,7 @@ TEST_F(ChatControlsTest, TheChoicesShowTheMarkedKindOfLineAndChangeIt) {
 
     client.ChatText("Tom tells you, \"hello\"\n", 3, 1);
     EXPECT_THAT(lines, ElementsAre(Line{"Tom tells you, \"hello\"", 13, 3}));
-    EXPECT_THAT(CallsOf("sndPlaySound"), testing::SizeIs(1));
+    EXPECT_THAT(CallsOf("sndPlaySound"), SizeIs(1));
 
     Click("Chat_Color", 1, 0);
     EXPECT_EQ(Picked("Chat_Color_Sound"), "None");

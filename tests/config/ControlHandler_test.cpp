@@ -2,9 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <string>
-#include <vector>
-
 #include "adapters/sim/Controls.h"
 #include "adapters/sim/View.h"
 #include "config/ControlTable.h"
@@ -15,11 +12,6 @@
 
 namespace ombrel::test {
 namespace {
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 template <class Visitor>
 void ForEachRow(Visitor visit) {
@@ -89,40 +81,40 @@ TEST_F(ControlTest, WithoutAViewThePlugInSaysSoOnceAStep) {
                                            "Error #91 occured in 'InitControls' of class 'ControlHandler'"));
 }
 
-TEST_F(ControlTest, SoundChoicesHoldTheFilesAndStartAtNone) {
-    HaveSound("Gong.wav");
-    HaveSound("Loop/Bell.wav");
+TEST_F(ControlTest, SoundChoicesHoldTheFilesOfTheirFoldersAndStartAtNone) {
+    for (const char* file : {"gong.wav", "Bell.WAV", "notes.txt", "Loop/Horn.wav"}) HaveSound(file);
+    for (const char* shipped : {"Sounds/Loop", "Sounds"})
+        for (const auto& file : std::filesystem::directory_iterator(plugin_folder.path() / shipped))
+            if (file.is_regular_file() && file.file_size() > 4) std::filesystem::remove(file);
     Start();
     const auto texts = [](const host::Choice& choice) {
         std::vector<std::string> all;
         for (std::int32_t i = 0; i < choice.Count(); ++i) all.push_back(choice.Text(i));
         return all;
     };
-    EXPECT_THAT(texts(*options().ChatCustomSound), Contains("Gong.wav"));
-    EXPECT_THAT(texts(*options().AlarmManaSound), Contains("Bell.wav"));
-    for (const auto& choice : {options().ChatColorSound, options().ChatCustomSound, options().AlarmHealthSound,
-                               options().AlarmStaminaSound, options().AlarmManaSound})
-        EXPECT_EQ(choice->Text(choice->Selected()), "None");
+    for (const auto& choice : {options().ChatColorSound, options().ChatCustomSound}) {
+        EXPECT_THAT(texts(*choice), ElementsAre("None", "Bell.WAV", "gong.wav"));
+        EXPECT_EQ(choice->Selected(), 0);
+    }
+    for (const auto& choice : {options().AlarmHealthSound, options().AlarmStaminaSound, options().AlarmManaSound}) {
+        EXPECT_THAT(texts(*choice), ElementsAre("None", "Horn.wav"));
+        EXPECT_EQ(choice->Selected(), 0);
+    }
 }
 
-TEST_F(ControlTest, EventsBeforeLoginDoNothing) {
+TEST_F(ControlTest, AControlMayOutliveItsReader) {
     Start();
-    Vars::SettingsState = 2;
-    auto& box = *client.view()->Get<sim::SimCheckbox>("HUD_On");
-    box.Check(true);
-    EXPECT_FALSE(hud::FrameOf(hud::kMain).Enabled());
-
     const std::array<std::int32_t, 1> version{1};
     options().Init_Lists(version);
     Vars::Loaded = true;
-    box.Check(true);
-    EXPECT_TRUE(hud::FrameOf(hud::kMain).Enabled());
-    box.Check(false);
-    EXPECT_FALSE(hud::FrameOf(hud::kMain).Enabled());
-
+    auto& box = *client.view()->Get<sim::SimCheckbox>("HUD_On");
+    for (const bool on : {true, false}) {
+        box.Check(on);
+        EXPECT_EQ(hud::FrameOf(hud::kMain).Enabled(), on);
+    }
     options().ReleaseControls();
     box.Check(true);
-    EXPECT_FALSE(hud::FrameOf(hud::kMain).Enabled()) << "a control may outlive its reader";
+    EXPECT_FALSE(hud::FrameOf(hud::kMain).Enabled());
 }
 
 TEST_F(ControlTest, ListsStartFromTheirBuiltInRows) {

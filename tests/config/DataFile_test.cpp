@@ -1,29 +1,18 @@
 #include <fmt/format.h>
 
-#include <cstdlib>
+#include <algorithm>
 #include <pugixml.hpp>
 #include <random>
 #include <set>
-#include <string>
-
-#if __has_include(<sys/wait.h>)
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <csignal>
-#endif
 
 #include "chat/LogHandler.h"
 #include "corpses/CorpseHandler.h"
 #include "spells/SpellHandler.h"
+#include "tests/support/Mishaps.h"
 #include "tests/support/PluginTest.h"
 
 namespace ombrel::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 constexpr std::string_view kFile = "Ombrel/Data/Ombrel_Data_Frostfell_Aldra.xml";
 constexpr std::string_view kEmpty = "<Ombrel>\r\t<Global enabled=\"False\"/>\r\t\r</Ombrel>";
@@ -91,15 +80,6 @@ TEST_F(DataTest, MissingAttributesAndUnknownElementsDoNoHarm) {
               "<Log message=\"\" type=\"0\" color=\"0\" tag=\"0\" date=\"0\"/>\r\t\r</Ombrel>");
 }
 
-TEST_F(DataTest, ABrokenFileIsKept) {
-    for (const std::string_view text : {"<Ombrel><Log message=\"a", "", "scrap"}) {
-        std::filesystem::remove_all(common_data.path() / "Ombrel/Data");
-        Load(text);
-        EXPECT_EQ(Saved(), kEmpty);
-        EXPECT_EQ(Kept("unreadable"), text);
-    }
-}
-
 TEST_F(DataTest, AFileThatWasNotReadToItsEndIsKeptAtTheNextSave) {
     const std::string text = "<Ombrel><Global enabled=\"True\"/><Log type=\"loud\"/><Log message=\"lost\"/></Ombrel>";
     Load(text);
@@ -140,6 +120,13 @@ TEST_F(DataTest, WhateverIsKnownComesBackAsItWas) {
         for (int i = between(0, 12); i > 0; --i) made += kPieces[between(0, std::size(kPieces) - 1)];
         return made;
     };
+    struct Fields {
+        auto operator()(const CorpseInfo& c) const { return std::tie(c.guid, c.NS, c.EW, c.time, c.Dungeon, c.data); }
+        auto operator()(const LogItem& l) const {
+            return std::tie(l.message, l.msgtype, l.msgcolor, l.msgdate, l.msgtag);
+        }
+    };
+    constexpr Fields fields;
     options().ChatLogMax->SetText("100");
     for (int round = 0; round < 200; ++round) {
         auto& corpses = Vars::CorpseHandler->Corpses;
@@ -166,32 +153,9 @@ TEST_F(DataTest, WhateverIsKnownComesBackAsItWas) {
         options().Data_Load(0);
         ASSERT_EQ(Saved(), saved) << "round " << round;
         EXPECT_EQ(options().GlobalSettings->Checked(), global);
-        ASSERT_EQ(corpses.size(), corpses_before.size());
-        for (std::size_t i = 0; i < corpses.size(); ++i) {
-            const auto fields = [](const CorpseInfo& c) {
-                return std::tie(c.guid, c.NS, c.EW, c.time, c.Dungeon, c.data);
-            };
-            EXPECT_EQ(fields(corpses[i]), fields(corpses_before[i]));
-        }
-        ASSERT_EQ(log.size(), log_before.size());
-        for (std::size_t i = 0; i < log.size(); ++i) {
-            const auto fields = [](const LogItem& l) {
-                return std::tie(l.message, l.msgtype, l.msgcolor, l.msgdate, l.msgtag);
-            };
-            EXPECT_EQ(fields(log[i]), fields(log_before[i]));
-        }
+        EXPECT_TRUE(std::ranges::equal(corpses, corpses_before, {}, fields, fields));
+        EXPECT_TRUE(std::ranges::equal(log, log_before, {}, fields, fields));
     }
-}
-
-TEST_F(DataTest, ASecondLoginDoublesNothing) {
-    Load(
-        "<Ombrel><Corpse ns=\"1\" ew=\"2\"/><Item_Spell id=\"37\" remaining=\"100\" target=\"your armor.\"/>"
-        "<Log message=\"a\"/></Ombrel>");
-    const std::string once = Saved();
-    options().Data_Load(0);
-    options().Data_Load(0);
-    EXPECT_EQ(Saved(), once);
-    EXPECT_EQ(Vars::CorpseHandler->Corpses.size(), 1U);
 }
 
 // Whatever became of the file, the evening begins, and what there was is kept.
@@ -201,31 +165,24 @@ TEST_F(DataTest, ACutOrForeignFileCostsNothing) {
         whole += fmt::format("<Log message=\"line {} &amp; more\" type=\"2\" color=\"2\" tag=\"1\" date=\"{}\"/>\r\t",
                              i, 1141560000 + i);
     whole += "\r</Ombrel>";
-    struct Row {
-        std::string content;
-        std::string_view reason;
-    };
-    std::vector<Row> rows = {{"", "unreadable"},
-                             {std::string(4096, '\0'), "unreadable"},
-                             {std::string("\x7f"
-                                          "ELF\x02\x01\x01\0\0",
-                                          9),
-                              "unreadable"},
-                             {"\xff\xfe<\0O\0", "unreadable"},
-                             {"{\"corpses\": []}", "unreadable"},
-                             {"<html><body><Log message=\"x\"/></body></html>", "not taken over"},
-                             {"<Settings><Log type=\"x\"/></Settings>", "not taken over"},
-                             {"<Ombrel><Corpse time=\"soon\"/></Ombrel>", "not taken over"}};
+    std::vector<std::pair<std::string, std::string>> rows = {
+        {"", "unreadable"},
+        {std::string(4096, '\0'), "unreadable"},
+        {"\xff\xfe<\0O\0", "unreadable"},
+        {"{\"corpses\": []}", "unreadable"},
+        {"<html><body><Log message=\"x\"/></body></html>", "not taken over"},
+        {"<Settings><Log type=\"x\"/></Settings>", "not taken over"},
+        {"<Ombrel><Corpse time=\"soon\"/></Ombrel>", "not taken over"}};
     for (std::size_t length = 1; length < whole.size(); length += 61)
         rows.push_back({whole.substr(0, length), "unreadable"});
-    for (const Row& row : rows) {
-        SCOPED_TRACE(testing::PrintToString(row.content.substr(0, 60)));
+    for (const auto& [content, reason] : rows) {
+        SCOPED_TRACE(testing::PrintToString(content.substr(0, 60)));
         std::filesystem::remove_all(common_data.path() / "Ombrel/Data");
-        common_data.Write(kFile, row.content);
+        common_data.Write(kFile, content);
         client.LoginComplete();
         client.Logoff(0);
         EXPECT_TRUE(Vars::Loaded);
-        EXPECT_EQ(Kept(row.reason), row.content);
+        EXPECT_EQ(Kept(reason), content);
         pugi::xml_document document;
         EXPECT_TRUE(document.load_string(Saved().c_str())) << Saved();
         TakeReports();
@@ -234,50 +191,27 @@ TEST_F(DataTest, ACutOrForeignFileCostsNothing) {
     }
 }
 
-TEST_F(DataTest, AFolderInItsPlaceIsToldOf) {
-    std::filesystem::create_directories(common_data.path() / kFile);
-    options().Data_Load(0);
-    EXPECT_THAT(TakeReports(), ElementsAre(HasSubstr("occured in 'Data_Save' of class 'ControlHandler'")));
-}
-
-#if __has_include(<sys/wait.h>)
-
-// A client that is killed while it saves leaves the file of before or the new one.
-TEST_F(DataTest, AKillAtAnyMomentLeavesAWholeFile) {
-    const char* wish = std::getenv("OMBREL_KILLS");
-    const int kills = wish ? std::atoi(wish) : 12;
+TEST_F(DataTest, AKillAtAnyMomentLeavesTheFileOfBeforeOrTheNewOne) {
     auto& log = Vars::LogHandler->Log;
-    for (std::int32_t i = 0; i < 100; ++i) log.push_back({std::string(400, 'x'), 2, 2, i, 1, 0});
-    options().Data_Save();
-    std::set<std::size_t> sizes = {Saved().size()};
-    for (auto& line : log) line.message.assign(40, 'y');
-    options().Data_Save();
-    sizes.insert(Saved().size());
-
-    std::minstd_rand random(std::random_device{}());
-    std::set<std::size_t> seen;
-    for (int kill = 0; kill < kills; ++kill) {
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            for (int i = 0;; ++i) {
-                for (auto& line : log) line.message.assign(i % 2 == 0 ? 400 : 40, i % 2 == 0 ? 'x' : 'y');
-                options().Data_Save();
-            }
-        }
-        usleep(static_cast<useconds_t>(random() % 6000));
-        ::kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
-        ASSERT_THAT(sizes, testing::Contains(Saved().size())) << "kill " << kill;
-        seen.insert(Saved().size());
+    for (std::int32_t i = 0; i < 100; ++i) log.push_back({"", 2, 2, i, 1, 0});
+    std::set<std::size_t> sizes;
+    const auto save = [&](int i) {
+        for (auto& line : log) line.message.assign(i % 2 == 0 ? 400 : 40, i % 2 == 0 ? 'x' : 'y');
+        options().Data_Save();
+    };
+    for (const int i : {0, 1}) {
+        save(i);
+        sizes.insert(Saved().size());
+    }
+    for (int kill = 0; kill < Kills(); ++kill) {
+        KillWhileDoing(save);
+        ASSERT_THAT(sizes, Contains(Saved().size())) << "kill " << kill;
         options().Data_Load(0);
         ASSERT_EQ(log.size(), 100U) << "kill " << kill;
         for (const auto& line : log) ASSERT_EQ(line.message, log[0].message);
         ASSERT_EQ(Kept("unreadable") + Kept("not taken over"), "");
     }
 }
-
-#endif
 
 }  // namespace
 }  // namespace ombrel::test

@@ -1,9 +1,9 @@
 #include "config/FlatXml.h"
 
-#include <gtest/gtest.h>
-
 #include <pugixml.hpp>
 #include <string>
+
+#include "tests/support/Matchers.h"
 
 namespace ombrel {
 namespace {

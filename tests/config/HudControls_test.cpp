@@ -1,9 +1,6 @@
 // The pages of the HUDs.
 #include <fmt/format.h>
 
-#include <string>
-#include <vector>
-
 #include "config/ControlTools.h"
 #include "config/HudRows.h"
 #include "core/Hub.h"
@@ -16,10 +13,6 @@
 
 namespace ombrel::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 class HudControlsTest : public ViewTest {
 protected:
@@ -71,14 +64,13 @@ TEST_F(HudControlsTest, TheChoicesShowTheMarkedHudAndChangeItAlone) {
         if (row == hud::kMain) continue;
 
         EXPECT_EQ(Picked("HUD_General_Font"), "Arial");
-        Pick("HUD_General_Font", "Times");
-        EXPECT_TRUE(Saved());
-        Pick("HUD_General_Size", "12");
-        EXPECT_TRUE(Saved());
-        Pick("HUD_General_BG_Color", "Light Blue");
-        EXPECT_TRUE(Saved());
-        Pick("HUD_General_BG_Alpha", "30%");
-        EXPECT_TRUE(Saved());
+        for (const auto& [choice, text] : {std::pair{"HUD_General_Font", "Times"},
+                                           {"HUD_General_Size", "12"},
+                                           {"HUD_General_BG_Color", "Light Blue"},
+                                           {"HUD_General_BG_Alpha", "30%"}}) {
+            Pick(choice, text);
+            EXPECT_TRUE(Saved()) << choice;
+        }
         const HudFrame& frame = hud::FrameOf(row);
         EXPECT_EQ(frame.FontFace(), "Times New Roman");
         EXPECT_EQ(frame.FontSize(), 12);
@@ -174,31 +166,6 @@ TEST_F(HudControlsTest, ClocksComeAndGoAtOnceInTheirColours) {
     EXPECT_EQ(Picked("HUD_Clock_Color"), "Orange");
     Click("HUD_Clock", 0, west);
     EXPECT_FALSE(ClockLine("PST"));
-}
-
-TEST_F(HudControlsTest, TimersStartAndStopAtTheirButtons) {
-    Put("HUD_Clock_Timer", "0:02:00");
-    Press("HUD_Timer_Down");
-    ASSERT_TRUE(ClockLine("Down Timer"));
-    EXPECT_EQ(ClockLine("Down Timer")->data, "02:00");
-    Advance(30s);
-    EXPECT_EQ(ClockLine("Down Timer")->data, "01:30");
-    Press("HUD_Timer_Up");
-    Advance(5s);
-    EXPECT_EQ(ClockLine("Up Timer")->data, "05");
-    Press("HUD_Timer_Up");
-    EXPECT_FALSE(ClockLine("Up Timer"));
-    EXPECT_EQ(CellText(*options().HudClockList, 3, 1), "");
-    Put("HUD_Clock_Timer", "0:00:10");
-    Press("HUD_Timer_Down");
-    EXPECT_EQ(ClockLine("Down Timer")->data, "10");
-    Advance(12s);
-    EXPECT_FALSE(ClockLine("Down Timer"));
-
-    Put("HUD_Clock_Timer", "soon");
-    Press("HUD_Timer_Down");
-    EXPECT_THAT(TakeReports(), ElementsAre("Error #13 occured in 'StartDnTime' of class 'HUDClockHandler'"));
-    EXPECT_FALSE(ClockLine("Down Timer"));
 }
 
 TEST_F(HudControlsTest, ItemsAreAddedChangedSortedAndDeleted) {

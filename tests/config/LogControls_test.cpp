@@ -5,11 +5,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-
 class LogControlsTest : public ViewTest {
 protected:
     static LogHandler& log() { return *Vars::LogHandler; }
@@ -17,6 +12,8 @@ protected:
     bool HaveLog(const char* file) const {
         return std::filesystem::exists(documents.path() / "Asheron's Call/Logs" / file);
     }
+
+    void SetUp() override { LogIn(); }
 
     void KeepLines() {
         Check("Chat_Log_Enable", true);
@@ -35,40 +32,7 @@ protected:
     }
 };
 
-TEST_F(LogControlsTest, NothingHappensBeforeLogin) {
-    Start();
-    Check("Chat_Log_Auto", true);
-    Check("Chat_Log_By_Date", true);
-    Check("Chat_Log_AFK", true);
-    EXPECT_EQ(log().logfile(), "");
-    EXPECT_THAT(CallsOf("InvokeChatParser"), IsEmpty());
-}
-
-TEST_F(LogControlsTest, EachSwitchIsSavedAtOnce) {
-    LogIn();
-    Saved();
-    for (const char* name : {"Chat_Log_Enable", "Chat_Log_Timestamp", "Chat_Log_XML", "Chat_Log_Auto"}) {
-        Check(name, true);
-        EXPECT_TRUE(Saved()) << name;
-    }
-    Control<sim::SimList>("Chat_Log_Options").Click(2, 0);
-    EXPECT_TRUE(Saved());
-    Control<sim::SimEdit>("Chat_Log_Max").Finish();
-    EXPECT_TRUE(Saved());
-}
-
-TEST_F(LogControlsTest, GoingAwayIsTheClientsOwnCommand) {
-    LogIn();
-    Forget();
-    Check("Chat_Log_AFK", true);
-    Check("Chat_Log_AFK", false);
-    const auto commands = CallsOf("InvokeChatParser");
-    ASSERT_EQ(commands.size(), 2u);
-    for (const auto& command : commands) EXPECT_THAT(command, HasSubstr("*afk*"));
-}
-
 TEST_F(LogControlsTest, ThePlayerSearchesFiltersTurnsAndEmptiesTheView) {
-    LogIn();
     KeepLines();
     const std::string apples = "Tom says, \"apples\"", pears = "Ann says, \"pears\"";
     auto& search = Control<sim::SimEdit>("Chat_Log_Search");
@@ -83,9 +47,9 @@ TEST_F(LogControlsTest, ThePlayerSearchesFiltersTurnsAndEmptiesTheView) {
     search.Finish();
     EXPECT_THAT(Shown(), ElementsAre(pears, apples));
 
-    Control<sim::SimPushButton>("Chat_Log_Dir").Press();
+    Press("Chat_Log_Dir");
     EXPECT_THAT(Shown(), ElementsAre(apples, pears));
-    Control<sim::SimPushButton>("Chat_Log_Dir").Press();
+    Press("Chat_Log_Dir");
     EXPECT_THAT(Shown(), ElementsAre(pears, apples));
 
     Control<sim::SimChoice>("Chat_Log_Filter").Select(2);
@@ -111,13 +75,12 @@ TEST_F(LogControlsTest, ThePlayerSearchesFiltersTurnsAndEmptiesTheView) {
     }
     EXPECT_THAT(TakeReports(), IsEmpty());
 
-    Control<sim::SimPushButton>("Chat_Log_Clear").Press();
+    Press("Chat_Log_Clear");
     EXPECT_THAT(Shown(), IsEmpty());
     EXPECT_THAT(log().Log, IsEmpty());
 }
 
 TEST_F(LogControlsTest, AutomaticLoggingStartsAtOnceAndIsNotStoppedByItsBox) {
-    LogIn();
     options().ChatLogByDate->SetChecked(false);
     Check("Chat_Log_Auto", true);
     EXPECT_TRUE(log().FileLogging());
@@ -133,7 +96,6 @@ TEST_F(LogControlsTest, AutomaticLoggingStartsAtOnceAndIsNotStoppedByItsBox) {
 }
 
 TEST_F(LogControlsTest, NameAndFormatFollowTheirBoxes) {
-    LogIn();
     Check("Chat_Log_By_Date", true);
     EXPECT_EQ(log().logfile(), "Frostfell_Aldra_2006-03-05");
     EXPECT_FALSE(log().FileLogging());
@@ -151,14 +113,21 @@ TEST_F(LogControlsTest, NameAndFormatFollowTheirBoxes) {
     log().AddToLog("second", 31, 2);
     Advance(1s);
     EXPECT_THAT(documents.Read("Asheron's Call/Logs/Frostfell_Aldra.txt"), HasSubstr("second"));
-}
 
-TEST_F(LogControlsTest, AFailureIsReportedUnderTheControlsName) {
-    LogIn();
     std::filesystem::remove_all(documents.path() / "Asheron's Call/Logs");
     documents.Write("Asheron's Call/Logs", "in the way");
     Check("Chat_Log_By_Date", true);
     EXPECT_THAT(TakeReports(), ElementsAre(HasSubstr("'ChatLogByDate_Change' of class 'ControlHandler'")));
+}
+
+TEST_F(LogControlsTest, GoingAwayIsTheClientsOwnCommandAndRowsOfTheLogAreSaved) {
+    Saved();
+    Click("Chat_Log_Options", 2, 0);
+    EXPECT_TRUE(Saved());
+    Forget();
+    Check("Chat_Log_AFK", true);
+    Check("Chat_Log_AFK", false);
+    EXPECT_THAT(CallsOf("InvokeChatParser"), AllOf(SizeIs(2), Each(HasSubstr("*afk*"))));
 }
 
 }  // namespace

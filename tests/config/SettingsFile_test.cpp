@@ -1,20 +1,8 @@
 #include <fmt/format.h>
 
-#include <cstdlib>
 #include <optional>
 #include <pugixml.hpp>
-#include <random>
 #include <set>
-#include <string>
-#include <vector>
-
-#if __has_include(<sys/resource.h>)
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <csignal>
-#endif
 
 #include "automation/EventQueue.h"
 #include "chat/ChatTextHandler.h"
@@ -24,6 +12,7 @@
 #include "core/cells.h"
 #include "hud/HUDTargetHandler.h"
 #include "stats/Statistics.h"
+#include "tests/support/Mishaps.h"
 #include "tests/support/PluginTest.h"
 
 namespace ombrel::test {
@@ -32,10 +21,6 @@ namespace {
 using settings::Attribute;
 using settings::Element;
 using settings::Rows;
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 constexpr std::string_view kOwn = "Ombrel/Settings/Ombrel_Settings_Frostfell_Aldra.xml";
 constexpr std::string_view kGlobal = "Ombrel/Settings/Ombrel_Global_Settings.xml";
@@ -183,20 +168,13 @@ TEST_F(SettingsTest, AWrongValueEndsTheLoadAndLeavesTheFile) {
 }
 
 TEST_F(SettingsTest, ValuesThatNothingAnswersToAreFailures) {
-    struct Row {
-        std::string_view elements;
-        std::string_view report;
-    };
-    const Row rows[] = {
-        {"<HUD_LIST name=\"Fame\"/>", "Error #9"},
-        {"<Clock_List enabled=\"True\"/>", "Error #9"},
-        {"<Location x=\"2147483647\"/>", "Error #6"},
-        {"<Location x=\"3000000000\"/>", "Error #6"},
-    };
-    for (const auto& row : rows) {
-        Load(Document(row.elements));
-        EXPECT_EQ(Vars::SettingsState, 1) << row.elements;
-        EXPECT_THAT(TakeReports(), ElementsAre(testing::StartsWith(std::string(row.report)))) << row.elements;
+    for (const auto& [elements, report] : {std::pair{"<HUD_LIST name=\"Fame\"/>", "Error #9"},
+                                           {"<Clock_List enabled=\"True\"/>", "Error #9"},
+                                           {"<Location x=\"2147483647\"/>", "Error #6"},
+                                           {"<Location x=\"3000000000\"/>", "Error #6"}}) {
+        Load(Document(elements));
+        EXPECT_EQ(Vars::SettingsState, 1) << elements;
+        EXPECT_THAT(TakeReports(), ElementsAre(StartsWith(report))) << elements;
     }
     Load(Document("", "one"));
     EXPECT_THAT(TakeReports(), ElementsAre("Error #13 occured in 'Settings_Load 1' of class 'ControlHandler'"));
@@ -350,22 +328,17 @@ TEST_F(SettingsTest, WhatCannotBeFoundGivesWayToDefaults) {
     const std::string own_missing = "<Ombrel> Failed to find character's settings, loading defaults";
     const std::string global_missing = "<Ombrel> Failed to find global settings, loading defaults";
     const std::string failed = "<Ombrel> Loading setting defaults failed.";
-    struct Row {
+    const struct {
         std::int32_t action;
-        bool global;
-        bool have_defaults;
-        bool have_shipped;
+        bool global, have_defaults, have_shipped;
         std::vector<std::string> said;
         std::string threshold;  // empty when nothing is loaded
-    };
-    const Row rows[] = {
-        {1, false, true, true, {}, "1"},
-        {1, true, false, true, {failed}, ""},
-        {0, false, true, true, {own_missing}, "1"},
-        {0, false, false, true, {own_missing, failed}, ""},
-        {0, true, true, true, {global_missing}, "2"},
-        {0, true, true, false, {global_missing, failed}, ""},
-    };
+    } rows[] = {{1, false, true, true, {}, "1"},
+                {1, true, false, true, {failed}, ""},
+                {0, false, true, true, {own_missing}, "1"},
+                {0, false, false, true, {own_missing, failed}, ""},
+                {0, true, true, true, {global_missing}, "2"},
+                {0, true, true, false, {global_missing, failed}, ""}};
     for (const auto& row : rows) {
         SCOPED_TRACE(fmt::format("action {} global {}", row.action, row.global));
         for (const auto file : {kOwn, kGlobal, kDefaults}) std::filesystem::remove(common_data.path() / file);
@@ -460,16 +433,6 @@ TEST_F(SettingsTest, NothingIsSavedBeforeSettingsAreComplete) {
     EXPECT_THAT(Files(), ElementsAre("Ombrel_Settings.xml"));
 }
 
-TEST_F(SettingsTest, DebugLinesTellOfEachLoadAndSave) {
-    Vars::DebugMode = true;
-    Load(Document("<Location x=\"1\" y=\"2\"/>"));
-    Vars::DebugMode = false;
-    const std::string log = documents.Read("Asheron's Call/Ombrel Debug.txt");
-    EXPECT_THAT(log, HasSubstr(" - Settings Load with action 0"));
-    EXPECT_THAT(log, HasSubstr(" - 2, 1, 231, 262"));
-    EXPECT_THAT(log, HasSubstr(" - Settings Save with action 0, settings state 2"));
-}
-
 TEST_F(SettingsTest, TheShippedDefaultsComeBackByteForByte) {
     const std::string shipped = plugin_folder.Read(kDefaults);
     ASSERT_FALSE(shipped.empty());
@@ -479,58 +442,31 @@ TEST_F(SettingsTest, TheShippedDefaultsComeBackByteForByte) {
     EXPECT_EQ(Saved(), shipped);
 }
 
-#if __has_include(<sys/resource.h>)
-
-TEST_F(SettingsTest, AFullDiskLeavesTheOldFile) {
-    Load(Document("<Exp filterthreshold=\"5\"/>"));
-    const std::string before = Saved();
-
-    const auto old_handler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit old_limit{};
-    getrlimit(RLIMIT_FSIZE, &old_limit);
-    rlimit limit = old_limit;
-    limit.rlim_cur = 4096;
-    setrlimit(RLIMIT_FSIZE, &limit);
-    options().XPFilterThreshold->SetText("6");
-    options().Settings_Save(0);
-    setrlimit(RLIMIT_FSIZE, &old_limit);
-    std::signal(SIGXFSZ, old_handler);
-
-    EXPECT_THAT(TakeReports(), ElementsAre(HasSubstr("occured in 'Settings_Save' of class 'ControlHandler'")));
-    EXPECT_EQ(Saved(), before);
-    EXPECT_EQ(Files().size(), 1U);
-    options().Settings_Save(0);
-    EXPECT_EQ(Value("Exp", "filterthreshold"), "6");
-}
-
-TEST_F(SettingsTest, AKillAtAnyMomentLeavesAWholeFile) {
-    const char* wish = std::getenv("OMBREL_KILLS");
-    const int kills = wish ? std::atoi(wish) : 20;
+TEST_F(SettingsTest, AKillOrAFullDiskAtAnyMomentLeavesAWholeFile) {
     Load(Document("<Exp filterthreshold=\"0\"/>"));
     const std::size_t size = Saved().size();
-
-    std::minstd_rand random(20240704);
-    for (int kill = 0; kill < kills; ++kill) {
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            for (int i = 0;; ++i) {
-                options().XPFilterThreshold->SetText(std::to_string(i % 10));
-                options().Settings_Save(0);
-            }
-        }
-        usleep(static_cast<useconds_t>(500 + random() % 6000));
-        ::kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
-
+    const auto save = [](int i) {
+        options().XPFilterThreshold->SetText(std::to_string(i % 10));
+        options().Settings_Save(0);
+    };
+    for (int kill = 0; kill < Kills(); ++kill) {
+        KillWhileDoing(save);
         EXPECT_EQ(Saved().size(), size) << "kill " << kill;
         options().Settings_Load(0);
         ASSERT_EQ(Vars::SettingsState, 2) << "kill " << kill;
         EXPECT_THAT(Texts(), IsEmpty());
     }
+    const std::string before = Saved();
+    {
+        const FullDisk full;
+        save(6);
+    }
+    EXPECT_THAT(TakeReports(), ElementsAre(HasSubstr("occured in 'Settings_Save' of class 'ControlHandler'")));
+    EXPECT_EQ(Saved(), before);
+    EXPECT_EQ(Files().size(), 1U);
+    save(6);
+    EXPECT_EQ(Value("Exp", "filterthreshold"), "6");
 }
-
-#endif
 
 }  // namespace
 }  // namespace ombrel::test

@@ -6,20 +6,7 @@
 namespace ombrel::test {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-
 using APluginCoreTest = PluginTest;
-
-TEST_F(APluginCoreTest, BeginsWithAllHandlersAndNoCharacter) {
-    Start();
-    EXPECT_TRUE(Vars::TimerHandler && Vars::HUDTargetHandler && Vars::LogHandler);
-    EXPECT_FALSE(Vars::DHSHandler);
-    EXPECT_FALSE(Vars::Loaded);
-    EXPECT_THAT(lines, IsEmpty());
-}
 
 TEST_F(APluginCoreTest, ScreenAndFileColoursDifferInAFewRowsOnPurpose) {
     Start();
@@ -100,6 +87,7 @@ TEST_F(APluginCoreTest, AnOlderPluginLeavesTheNewerOnesHandlersAlone) {
 
 TEST_F(APluginCoreTest, LinesOfOtherPluginsGoStraightToChatUntilLogin) {
     Start();
+    EXPECT_THAT(lines, IsEmpty());
     client.plugin()->AddChatText("Tracker ready", 5, 2);
     EXPECT_THAT(lines, ElementsAre(Line{"Tracker ready", 5, 2}));
 }
@@ -121,13 +109,6 @@ TEST_F(APluginCoreTest, AStepThatFailsEndsTheStartAndIsReported) {
     client.plugin()->AddChatText("Anybody there?", 2, 1);
     EXPECT_FALSE(client.WindowMessage(512, 10, 10, 0, 0));
     EXPECT_THAT(lines, IsEmpty());
-}
-
-TEST_F(APluginCoreTest, MouseMessagesGoOnToTheGame) {
-    Start();
-    EXPECT_FALSE(client.WindowMessage(513, 10, 10, 0, 0));
-    LogIn();
-    EXPECT_FALSE(client.WindowMessage(513, 10, 10, 0, 0));
 }
 
 }  // namespace

@@ -1,11 +1,10 @@
 #include "core/convert.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <limits>
 
 #include "core/failure.h"
+#include "tests/support/Matchers.h"
 
 namespace ombrel {
 namespace {

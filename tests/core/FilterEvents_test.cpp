@@ -9,12 +9,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
-
 class FilterEvents : public PluginTest {
 protected:
     static host::Id Target() {
@@ -166,12 +160,7 @@ TEST_F(FilterEvents, SelectingAsksForWhatIsNotFresh) {
     EXPECT_EQ(Target(), 8);
     client.ObjectSelected(99);
     EXPECT_EQ(Target(), 0);
-}
 
-TEST_F(FilterEvents, ATargetThatGoesIsForgotten) {
-    client.object(7).Name = "Drudge";
-    client.object(8).Name = "Lever";
-    LogIn();
     client.ObjectSelected(7);
     client.ReleaseObject(8);
     EXPECT_EQ(Target(), 7);

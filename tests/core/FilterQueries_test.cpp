@@ -8,9 +8,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 class FilterQueries : public PluginTest {
 protected:
     FilterQueries() {

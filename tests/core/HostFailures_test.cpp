@@ -6,7 +6,6 @@
 
 #include <functional>
 #include <ostream>
-#include <string>
 #include <utility>
 
 #include "adapters/sim/Calls.h"
@@ -32,26 +31,25 @@ struct EventRow {
     friend void PrintTo(const EventRow& row, std::ostream* out) { *out << row.name; }
 };
 
-constexpr host::Id kCorpse = 0x100;
-constexpr host::Id kDrudge = 0x101;
-constexpr host::Id kHam = 0x102;
-constexpr host::Id kKit = 0x103;
-constexpr host::Id kNote = 0x104;
-constexpr host::Id kAle = 0x105;
-constexpr host::Id kSword = 0x106;
-constexpr host::Id kStone = 0x120;
-constexpr host::Id kRing = 0x121;
-constexpr host::Id kPeas = 0x122;
-constexpr host::Id kWare = 0x123;
-constexpr host::Id kOldNotes = 0x124;
+constexpr host::Id kCorpse = 0x100, kDrudge = 0x101, kHam = 0x102, kKit = 0x103, kNote = 0x104, kAle = 0x105;
+constexpr host::Id kSword = 0x106, kStone = 0x120, kRing = 0x121, kPeas = 0x122, kWare = 0x123, kOldNotes = 0x124;
 
 // Spells that run out, one on the character and one that is new to the list.
 void Enchant(sim::Client& client) {
-    client.LoadSpells(OMBREL_SOURCE_DIR "/resources/sim/spells.tsv");
+    client.LoadSpells(SpellTablePath());
     client.Enchant(1332, 2700, 1);
     client.Enchant(1327, 210, 116);
     client.Enchant(-32766, 60, 0);
     client.ChangeEnchantments(0, {});
+}
+
+void LookAtDrudge(sim::Client& client) { client.ObjectSelected(kDrudge); }
+void FollowCorpses(sim::Client&) { Vars::ControlHandler->CorpsesAuto->SetChecked(true); }
+
+// A wound, and something to eat.
+void Starve(sim::Client& client) {
+    client.sheet.Health = 50;
+    client.object(kHam).Long = {{89, 2}, {90, 40}};
 }
 
 template <class Kind>
@@ -119,41 +117,18 @@ const EventRow kEvents[] = {
          ServerSays(c, Quality(kTotalXP, 1000));
          ServerSays(c, Quality(kUnassignedXP, 500));
      }},
-    {"EffectMessage",
-     [](sim::Client& c) {
-         ServerSays(c, {{"Type", kEffect}, {"object", kDrudge}, {"effect", 44}, {"speed", 0.8}});
-     },
-     [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
-    {"KillMessage",
-     [](sim::Client& c) {
-         ServerSays(c, {{"Type", kEvent}, {"event", 0x1AD}, {"text", "You flatten Drudge Slave!"}});
-     }},
+    {"EffectMessage", [](sim::Client& c) { ServerSays(c, EffectOn(kDrudge, 44)); }, LookAtDrudge},
+    {"KillMessage", [](sim::Client& c) { ServerSays(c, KillText("You flatten Drudge Slave!")); }},
     {"LoginSnapshot", [](sim::Client& c) { ServerSays(c, LoginSnapshot(1000, 500)); }},
-    {"IdentificationMessage",
-     [](sim::Client& c) {
-         ServerSays(c, {{"Type", kEvent},
-                        {"event", 0xC9},
-                        {"success", 1},
-                        {"object", kDrudge},
-                        {"flags", 0x100},
-                        {"health", 18},
-                        {"healthMax", 36},
-                        {"spellCount", 1},
-                        {"spells", {{{"spell", 2108}}}}});
-     },
-     [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
-    {"HealthMessage",
-     [](sim::Client& c) {
-         ServerSays(c, {{"Type", kEvent}, {"event", 0x1C0}, {"object", kDrudge}, {"health", 0.5}});
-     },
-     [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
+    {"IdentificationMessage", [](sim::Client& c) { ServerSays(c, Identified(kDrudge, 0x100, 18, 36, {2108})); },
+     LookAtDrudge},
+    {"HealthMessage", [](sim::Client& c) { ServerSays(c, HealthOf(kDrudge, 0.5)); }, LookAtDrudge},
     {"OptionsMessage",
      [](sim::Client& c) {
          ClientSays(c, OptionsChanged(WindowOptions({0x18, 0x00080000})));
      }},
     {"QueueLink", [](sim::Client& c) { c.ChatClick("[Ombrel]", 0x710E0); }},
-    {"CorpseOpened", [](sim::Client& c) { c.ContainerOpened(kCorpse); },
-     [](sim::Client&) { Vars::ControlHandler->CorpsesAuto->SetChecked(true); }},
+    {"CorpseOpened", [](sim::Client& c) { c.ContainerOpened(kCorpse); }, FollowCorpses},
     {"ObjectSelected", [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
     {"SelectionCleared", [](sim::Client& c) { c.ObjectSelected(0); }},
     {"RegionChanged",
@@ -162,14 +137,11 @@ const EventRow kEvents[] = {
      }},
     {"ObjectCreated", [](sim::Client& c) { c.CreateObject(kNote); },
      [](sim::Client&) { Vars::FilterHandler->SellingPeas = true; }},
-    {"TargetChanged", [](sim::Client& c) { c.ChangeObject(kDrudge, 0); },
-     [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
+    {"TargetChanged", [](sim::Client& c) { c.ChangeObject(kDrudge, 0); }, LookAtDrudge},
     {"FoodMoved", [](sim::Client& c) { c.MoveObject(kHam); }},
     {"KitMoved", [](sim::Client& c) { c.MoveObject(kKit); }},
-    {"CorpseReleased", [](sim::Client& c) { c.ReleaseObject(kCorpse); },
-     [](sim::Client&) { Vars::ControlHandler->CorpsesAuto->SetChecked(true); }},
-    {"TargetReleased", [](sim::Client& c) { c.ReleaseObject(kDrudge); },
-     [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
+    {"CorpseReleased", [](sim::Client& c) { c.ReleaseObject(kCorpse); }, FollowCorpses},
+    {"TargetReleased", [](sim::Client& c) { c.ReleaseObject(kDrudge); }, LookAtDrudge},
     {"WeaponSelected", [](sim::Client& c) { c.ObjectSelected(kSword); }},
     {"WeaponIdentified", [](sim::Client& c) { c.ChangeObject(kSword, 2); },
      [](sim::Client& c) {
@@ -178,30 +150,18 @@ const EventRow kEvents[] = {
          c.object(kSword).HasIdData = 1;
      }},
     {"TargetHurt",
+     [](sim::Client& c) { ServerSays(c, HealthOf(kDrudge, Vars::NetEchoHandler->TargetHealthRatio / 2)); },
+     LookAtDrudge},
+    {"TargetIdentified", [](sim::Client& c) { ServerSays(c, Identified(kDrudge, 0x110, 18, 36, {2074})); },
+     LookAtDrudge},
+    {"DebuffLands", [](sim::Client& c) { ServerSays(c, EffectOn(kDrudge, 48)); },
      [](sim::Client& c) {
-         const double ratio = Vars::NetEchoHandler->TargetHealthRatio / 2;
-         ServerSays(c, {{"Type", kEvent}, {"event", 0x1C0}, {"object", kDrudge}, {"health", ratio}});
-     },
-     [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
-    {"TargetIdentified",
-     [](sim::Client& c) {
-         Json message = {{"Type", kEvent}, {"event", 0xC9}, {"object", kDrudge}, {"success", 1},
-                         {"flags", 0x110}, {"health", 18},  {"healthMax", 36},   {"spellCount", 1}};
-         message["spells"] = Json::array({{{"spell", 2074}}});
-         ServerSays(c, message);
-     },
-     [](sim::Client& c) { c.ObjectSelected(kDrudge); }},
-    {"DebuffLands",
-     [](sim::Client& c) {
-         ServerSays(c, {{"Type", kEffect}, {"object", kDrudge}, {"effect", 48}, {"speed", 0.8}});
-     },
-     [](sim::Client& c) {
-         c.LoadSpells(OMBREL_SOURCE_DIR "/resources/sim/spells.tsv");
+         c.LoadSpells(SpellTablePath());
          c.ObjectSelected(kDrudge);
      }},
     {"DebuffRunsOut", [](sim::Client& c) { c.clock.Advance(1s); },
      [](sim::Client& c) {
-         c.LoadSpells(OMBREL_SOURCE_DIR "/resources/sim/spells.tsv");
+         c.LoadSpells(SpellTablePath());
          c.ObjectSelected(kDrudge);
          Vars::HUDTargetHandler->TargetHud->AddDebuff(kDrudge, 15);  // for a minute
          c.clock.Advance(59s);
@@ -216,16 +176,8 @@ const EventRow kEvents[] = {
     {"MouseDown", [](sim::Client& c) { c.WindowMessage(513, 20, 20, 0, 0); }},
     {"MouseUp", [](sim::Client& c) { c.WindowMessage(514, 20, 20, 0, 0); }},
     {"Hotkey", [](sim::Client& c) { c.Hotkey("OM:OneKeyHeal"); }},
-    {"FoodKey", [](sim::Client& c) { c.Hotkey("OM:OneKeyHealth"); },
-     [](sim::Client& c) {
-         c.sheet.Health = 50;
-         c.object(kHam).Long = {{89, 2}, {90, 40}};
-     }},
-    {"SmartKey", [](sim::Client& c) { c.Hotkey("OM:OneKeySmartHeal"); },
-     [](sim::Client& c) {
-         c.sheet.Health = 50;
-         c.object(kHam).Long = {{89, 2}, {90, 40}};
-     }},
+    {"FoodKey", [](sim::Client& c) { c.Hotkey("OM:OneKeyHealth"); }, Starve},
+    {"SmartKey", [](sim::Client& c) { c.Hotkey("OM:OneKeySmartHeal"); }, Starve},
     {"FillAskedFor", [](sim::Client& c) { c.ChatParser("/m fillmana"); }, [](sim::Client& c) { RunLow(c); }},
     {"FillByALine", [](sim::Client& c) { c.ChatText("Your Ring is low on Mana.\n", 7, 0); },
      [](sim::Client& c) {
@@ -376,7 +328,7 @@ std::vector<sim::Op> NeededBy(const EventRow& event) {
     std::vector<std::uint64_t> before;
     for (sim::Op op = 0; op < sim::Operations().size(); ++op) before.push_back(calls.Count(op));
     event.raise(evening.client);
-    EXPECT_THAT(evening.TakeReports(), testing::IsEmpty());
+    EXPECT_THAT(evening.TakeReports(), IsEmpty());
 
     std::vector<sim::Op> needed;
     for (sim::Op op = 0; op < before.size(); ++op) {
@@ -403,7 +355,7 @@ TEST_P(HostFailures, AreReportedOnceAndOver) {
 
         evening.client.calls.ClearFailures();
         EXPECT_NO_THROW(event.raise(evening.client));
-        EXPECT_THAT(evening.TakeReports(), testing::IsEmpty()) << "after the failure is over";
+        EXPECT_THAT(evening.TakeReports(), IsEmpty()) << "after the failure is over";
     }
 }
 

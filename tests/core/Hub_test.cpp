@@ -1,7 +1,5 @@
 #include "core/Hub.h"
 
-#include <gmock/gmock.h>
-
 #include <cerrno>
 #include <filesystem>
 #include <functional>
@@ -9,52 +7,37 @@
 #include <stdexcept>
 
 #include "chat/ChatTextHandler.h"
-#include "config/ControlHandler.h"
 #include "core/FilterHandler.h"
 #include "core/failure.h"
-#include "tests/core/FakeHooks.h"
-#include "tests/core/FakePlatform.h"
+#include "tests/core/ServicesTest.h"
 
 namespace ombrel {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Pair;
-
 const std::string kRule = std::string(80, '-') + "\r\n";
 const std::string kVersionLine = "Ombrel v1.1.0 (7/4/2024 1:05:09 PM)";
+
+using test::Line;
 
 class Hub : public ServicesTest {
 protected:
     ~Hub() override {
         Vars::ChatTextHandler.Release();
         Vars::FilterHandler.Release();
-        Vars::ControlHandler.Release();
     }
 
     // The chat writers' way to the client; nothing else of the plug-in works.
     void OpenChat() {
         Vars::FilterHandler = std::make_unique<FilterHandler>();
         Vars::ChatTextHandler = std::make_unique<ChatTextHandler>();
-        auto hooks = std::make_unique<FakeHooks>(lines_);
-        hooks_ = hooks.get();
-        Vars::FilterHandler->ACHooks = std::unique_ptr<host::ACHooks>(std::move(hooks));
-        lines_.clear();
-        std::filesystem::remove_all(folder_ / "Asheron's Call");
+        Vars::FilterHandler->ACHooks = client.site().GetHooks();
+        Forget();
+        std::filesystem::remove_all(documents.path() / "Asheron's Call");
         ErrorLogBusy = false;
     }
 
-    std::string Log(std::string_view name) const {
-        const auto path = Path("Asheron's Call\\" + std::string(name));
-        return FileExists(path) ? ReadFile(path) : std::string();
-    }
-    std::string Errors() const { return Log("Ombrel Errors.txt"); }
-    std::string Debug() const { return Log("Ombrel Debug.txt"); }
-
-    std::vector<ChatOutLine> lines_;
-    FakeHooks* hooks_ = nullptr;
+    std::string Errors() const { return documents.Read("Asheron's Call/Ombrel Errors.txt"); }
+    std::string Debug() const { return documents.Read("Asheron's Call/Ombrel Debug.txt"); }
 };
 
 TEST_F(Hub, TimeSpansReadAsClocksAndWords) {
@@ -63,32 +46,30 @@ TEST_F(Hub, TimeSpansReadAsClocksAndWords) {
         std::int32_t style;
         bool showSign;
         const char* text;
-    } cases[] = {
-        {0, 1, false, "00:00:00"},
-        {0, 0, false, ""},
-        {0, 10, false, ""},
-        {307, 0, false, "05:07"},
-        {307.9, 0, false, "05:07"},
-        {5, 0, false, "05"},
-        {65, 0, false, "01:05"},
-        {600, 0, false, "10:00"},
-        {3600, 0, false, "1:00:00"},
-        {3600, 2, false, "01:00:00"},
-        {36000, 0, false, "10:00:00"},
-        {3907, 1, false, "01:05:07"},
-        {86400, 1, false, "00:00:00"},
-        {90061, 0, false, "1:01:01"},
-        {86400, 10, false, "1 Days, 0 Hours, 0 Minutes, 0 Seconds"},
-        {3660, 10, false, "1 Hours, 1 Minutes, 0 Seconds"},
-        {61, 10, false, "1 Minutes, 1 Seconds"},
-        {59, 10, false, "59 Seconds"},
-        {-75, 1, true, "-00:01:15"},
-        {-75, 0, true, "-01:15"},
-        {-75, 10, true, "1 Minutes, 15 Seconds"},
-        {-75, 1, false, "00:00:00"},
-        {-75, 0, false, ""},
-    };
+    } cases[] = {{0, 1, false, "00:00:00"},
+                 {0, 0, false, ""},
+                 {0, 10, false, ""},
+                 {307, 0, false, "05:07"},
+                 {307.9, 0, false, "05:07"},
+                 {5, 0, false, "05"},
+                 {65, 0, false, "01:05"},
+                 {600, 0, false, "10:00"},
+                 {3600, 0, false, "1:00:00"},
+                 {3600, 2, false, "01:00:00"},
+                 {36000, 0, false, "10:00:00"},
+                 {3907, 1, false, "01:05:07"},
+                 {86400, 1, false, "00:00:00"},
+                 {90061, 0, false, "1:01:01"},
+                 {-75, 1, true, "-00:01:15"},
+                 {-75, 0, true, "-01:15"},
+                 {-75, 1, false, "00:00:00"},
+                 {-75, 0, false, ""}};
     for (const auto& row : cases) EXPECT_EQ(ConvTime(row.seconds, row.style, row.showSign), row.text) << row.seconds;
+    EXPECT_EQ(ConvTime(86400, 10, false), "1 Days, 0 Hours, 0 Minutes, 0 Seconds");
+    EXPECT_EQ(ConvTime(3660, 10, false), "1 Hours, 1 Minutes, 0 Seconds");
+    EXPECT_EQ(ConvTime(61, 10, false), "1 Minutes, 1 Seconds");
+    EXPECT_EQ(ConvTime(59, 10, false), "59 Seconds");
+    EXPECT_EQ(ConvTime(-75, 10, true), "1 Minutes, 15 Seconds");
 }
 
 TEST_F(Hub, CountsAreGroupedByThousands) {
@@ -142,13 +123,14 @@ TEST_F(Hub, ColoursGoByName) {
 }
 
 TEST_F(Hub, AFolderThatIsNotThereIsAnErrorTextThatNoFileIsMadeUnder) {
-    platform_.documents = {0, std::string("/home/tom\0\0\0", 12)};
+    client.system.documents = std::string("/home/tom\0\0\0", 12);
     EXPECT_EQ(GetMyDoc(), "/home/tom");
-    platform_.documents.status = 1;
+    client.system.documents_status = 1;
     EXPECT_EQ(GetMyDoc(), "Folder Does Not Exist");
-    platform_.data.status = 0x80070057;
+    client.system.common_data_status = 0x80070057;
     EXPECT_EQ(GetDataFolder(), "Folder Not Valid on this OS");
-    platform_.data = {0, ""};
+    client.system.common_data_status = 0;
+    client.system.common_data = "";
     EXPECT_EQ(GetDataFolder(), "Folder Not Valid on this OS");
 }
 
@@ -165,43 +147,42 @@ TEST_F(Hub, AReportLeavesABlockInTheErrorLog) {
     EXPECT_EQ(Debug(), "");
 }
 
-TEST_F(Hub, AReportIsToldInChatUnlessItComesFromDebug) {
+TEST_F(Hub, AReportIsToldInChatUnlessItComesFromDebugOrChatFails) {
     OpenChat();
     ErrorReport("DoThis", "TimerHandler", 91, "", 0);
     ErrorReport("Debug", "TimerHandler", 92, "", 0);
-    EXPECT_THAT(lines_,
-                ElementsAre(ChatOutLine{"<Ombrel> Error #91 occured in 'DoThis' of class 'TimerHandler'", 6, 1}));
+    EXPECT_THAT(lines, ElementsAre(Line{"<Ombrel> Error #91 occured in 'DoThis' of class 'TimerHandler'", 6, 1}));
     EXPECT_THAT(Errors(), HasSubstr("#92"));
-    Vars::ChatTextHandler.Release();
-    ErrorReport("DoThis", "TimerHandler", 93, "", 0);
-    EXPECT_EQ(lines_.size(), 1u);
-}
 
-TEST_F(Hub, AChatThatFailsIsTriedOnceAndToldOfInTheFile) {
-    OpenChat();
-    hooks_->failing = true;
+    lines.clear();
+    const auto chat_out = *sim::FindOperation("ACHooks.ChatOut");
+    const auto tried = client.calls.Count(chat_out);
+    client.calls.Fail(chat_out, 9, 5, "");
     ErrorReport("DoThis", "TimerHandler", 91, "", 0);
-    EXPECT_EQ(lines_.size(), 1u);
+    EXPECT_EQ(client.calls.Count(chat_out), tried + 1);
     EXPECT_THAT(Errors(), HasSubstr("Error #91 occured in 'DoThis'"));
     EXPECT_THAT(Errors(), HasSubstr("Error #5 occured in 'WriteToChatWindow' of class 'FilterHandler'"));
 
-    hooks_->failing = false;
+    client.calls.ClearFailures();
     ErrorReport("DoThis", "TimerHandler", 91, "", 0);
-    EXPECT_EQ(lines_.size(), 2u);
+    EXPECT_EQ(lines.size(), 1u);
+    Vars::ChatTextHandler.Release();
+    ErrorReport("DoThis", "TimerHandler", 93, "", 0);
+    EXPECT_EQ(lines.size(), 1u);
 }
 
 TEST_F(Hub, AnErrorLogThatFailedStaysBusyWhileChatGoesOn) {
     OpenChat();
-    platform_.documents.status = 1;
+    client.system.documents_status = 1;
     ErrorReport("DoThis", "TimerHandler", 91, "", 0);
-    ASSERT_EQ(lines_.size(), 2u);
-    EXPECT_THAT(lines_[0].text, HasSubstr("'DoThis'"));
-    EXPECT_THAT(lines_[1].text, HasSubstr("Error #76 occured in 'ErrorReport' of module 'Hub'"));
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_THAT(lines[0].text, HasSubstr("'DoThis'"));
+    EXPECT_THAT(lines[1].text, HasSubstr("Error #76 occured in 'ErrorReport' of module 'Hub'"));
     EXPECT_TRUE(ErrorLogBusy);
 
-    platform_.documents.status = 0;
+    client.system.documents_status = 0;
     ErrorReport("DoThis", "TimerHandler", 92, "", 0);
-    EXPECT_EQ(lines_.size(), 3u);
+    EXPECT_EQ(lines.size(), 3u);
     EXPECT_EQ(Errors(), "");
 }
 
@@ -216,9 +197,9 @@ TEST_F(Hub, DebugLinesGoToTheirLogAndPastAllRulesToChat) {
     ErrorReport("DoThis", "!Hub", 5, "why", 0);
     EXPECT_EQ(Debug(), kVersionLine + " - one\r\n" + kVersionLine + " - two\r\n" + kVersionLine +
                            " - Error #5 occured in 'DoThis' of module 'Hub', why\r\n");
-    ASSERT_EQ(lines_.size(), 2u);
-    EXPECT_EQ(lines_[0], (ChatOutLine{"<Ombrel-Debug> one", 32, 1}));
-    EXPECT_EQ(lines_[1].color, 6);
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_EQ(lines[0], (Line{"<Ombrel-Debug> one", 32, 1}));
+    EXPECT_EQ(lines[1].color, 6);
     Vars::DebugMode = false;
 }
 
@@ -234,8 +215,7 @@ TEST_F(Hub, ADebugLogThatFailedIsToldOfOnceAndInTheErrorLogOnly) {
     const auto told = errors.find("occured in 'wtcw_debug' of module 'Hub'");
     EXPECT_NE(told, std::string::npos);
     EXPECT_EQ(errors.find("occured in", told + 1), std::string::npos);
-    EXPECT_THAT(lines_,
-                ElementsAre(ChatOutLine{"<Ombrel-Debug> one", 32, 1}, ChatOutLine{"<Ombrel-Debug> two", 32, 1}));
+    EXPECT_THAT(lines, ElementsAre(Line{"<Ombrel-Debug> one", 32, 1}, Line{"<Ombrel-Debug> two", 32, 1}));
 }
 
 TEST_F(Hub, ReportsBeforeThereIsAnythingDoNoHarm) {
@@ -248,7 +228,7 @@ TEST_F(Hub, ReportsBeforeThereIsAnythingDoNoHarm) {
     EXPECT_EQ(GetMyDoc(), "Folder Not Valid on this OS");
     Vars::DebugMode = false;
     EXPECT_FALSE(ErrorLogBusy);  // what was missing was not the file
-    Vars::Platform = &platform_;
+    Vars::Platform = &client.platform();
     ErrorReport("DoThis", "!Hub", 5, "", 0);
     EXPECT_THAT(Errors(), HasSubstr("Error #5"));
 }
@@ -272,7 +252,7 @@ TEST_F(Hub, WhateverIsThrownIsReportedByItsKind) {
         {file_error(std::errc::io_error), "Error #57 "},
     };
     for (const auto& [procedure, expected] : cases) {
-        std::filesystem::remove_all(folder_ / "Asheron's Call");
+        std::filesystem::remove_all(documents.path() / "Asheron's Call");
         try {
             procedure();
         } catch (...) {
@@ -286,53 +266,18 @@ TEST_F(Hub, ASoundPlaysWhenItsFileIsThere) {
     OpenChat();
     AppendFile(Path("Sounds\\ping.wav"), "RIFF");
     PlayWavFile("ping.wav");
-    EXPECT_THAT(platform_.calls, ElementsAre(Pair(Path("Sounds\\ping.wav"), 3)));
     PlayWavFile("none.wav");
-    EXPECT_EQ(platform_.calls.size(), 1u);
-    EXPECT_THAT(lines_, ElementsAre(ChatOutLine{
-                            "<Ombrel> PlaySoundError: none.wav was not found in your install directory.", 6, 1}));
-}
-
-class FakeChoice : public host::Choice {
-public:
-    void Add(std::string_view text, std::string_view data) override {
-        texts.emplace_back(text);
-        EXPECT_EQ(text, data);
-    }
-    void Clear() override { texts.clear(); }
-    std::int32_t Count() const override { return static_cast<std::int32_t>(texts.size()); }
-    const std::string& Text(std::int32_t index) const override { return texts.at(static_cast<std::size_t>(index)); }
-    const std::string& Data(std::int32_t index) const override { return Text(index); }
-    std::int32_t Selected() const override { return -1; }
-    void SetSelected(std::int32_t) override {}
-
-    std::vector<std::string> texts = {"stale"};
-};
-
-TEST_F(Hub, TheSoundListsShowTheFilesOfTheirFolders) {
-    FakeChoice choices[5];
-    Vars::ControlHandler = std::make_unique<ControlHandler>();
-    Vars::ControlHandler->ChatColorSound = &choices[0];
-    Vars::ControlHandler->ChatCustomSound = &choices[1];
-    Vars::ControlHandler->AlarmHealthSound = &choices[2];
-    Vars::ControlHandler->AlarmStaminaSound = &choices[3];
-    Vars::ControlHandler->AlarmManaSound = &choices[4];
-    for (const char* name : {"Sounds\\Tell.WAV", "Sounds\\bell.wav", "Sounds\\notes.txt", "Sounds\\Loop\\low.wav"}) {
-        AppendFile(Path(name), "");
-    }
-    GetSoundList();
-    GetSoundLoopList();
-    for (int i = 0; i < 2; ++i) EXPECT_THAT(choices[i].texts, ElementsAre("None", "bell.wav", "Tell.WAV"));
-    for (int i = 2; i < 5; ++i) EXPECT_THAT(choices[i].texts, ElementsAre("None", "low.wav"));
-    Vars::ControlHandler.Release();  // before the choices that it refers to
+    EXPECT_THAT(CallsOf("sndPlaySound"), ElementsAre("sndPlaySound path=" + Path("Sounds\\ping.wav") + " flags=3"));
+    EXPECT_THAT(lines,
+                ElementsAre(Line{"<Ombrel> PlaySoundError: none.wav was not found in your install directory.", 6, 1}));
 }
 
 TEST_F(Hub, AClickLandsInTheWindowAndTheCursorGoesBack) {
-    platform_.cursor = {7, 8};
+    client.system.cursor = {7, 8};
     SendClick(20, 10);
-    const host::Point spot{120, 210};
-    EXPECT_THAT(platform_.clicks, ElementsAre(Pair(spot, 2), Pair(spot, 4)));
-    EXPECT_EQ(platform_.cursor, (host::Point{7, 8}));
+    EXPECT_EQ(client.calls.Count(*sim::FindOperation("Platform.ClientToScreen")), 1u);
+    EXPECT_THAT(calls, ElementsAre("SetCursorPos x=20 y=10", "mouse_event flags=2", "mouse_event flags=4",
+                                   "SetCursorPos x=7 y=8"));
 }
 
 }  // namespace

@@ -1,10 +1,9 @@
 #include "core/like.h"
 
-#include <gtest/gtest.h>
-
 #include <random>
 
 #include "core/failure.h"
+#include "tests/support/Matchers.h"
 
 namespace ombrel {
 namespace {

@@ -1,12 +1,9 @@
 #include "core/text.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "tests/support/Matchers.h"
 
 namespace ombrel {
 namespace {
-
-using testing::ElementsAre;
 
 TEST(Text, LowersTheLettersOfTheGamesCharacterSet) {
     EXPECT_EQ(ToLower("Tom SAYS [Z@`{]"), "tom says [z@`{]");

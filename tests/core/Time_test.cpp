@@ -1,9 +1,7 @@
 #include "core/time.h"
 
-#include <gtest/gtest.h>
-
 #include "core/failure.h"
-#include "tests/core/FakePlatform.h"
+#include "tests/core/ServicesTest.h"
 
 namespace ombrel {
 namespace {
@@ -15,7 +13,7 @@ constexpr host::TimeZone kZones[] = {{0, false, false},  {300, false, true}, {30
 
 TEST_F(Time, MomentsAndDatesTurnIntoEachOtherExactly) {
     for (const auto& zone : kZones) {
-        platform_.zone = zone;
+        client.system.zone = zone;
         for (std::int64_t moment = -2147400000; moment < 2147400000; moment += 33333331) {
             const auto seconds = static_cast<std::int32_t>(moment);
             ASSERT_EQ(DateToUnix(UnixToDate(seconds)), seconds) << zone.bias;
@@ -34,25 +32,25 @@ TEST_F(Time, SummerTimeNeedsTheRuleAndTheSeason) {
                                25569.0 + 10.5 * hour,
                                25569.0 + 5.75 * hour};
     for (std::size_t i = 0; i < std::size(kZones); ++i) {
-        platform_.zone = kZones[i];
+        client.system.zone = kZones[i];
         EXPECT_NEAR(UnixToDate(0), expected[i], 1e-9) << i;
     }
 }
 
 TEST_F(Time, UniversalTimeIsTakenFromTheStandardOffset) {
-    platform_.zone = {300, true, true};
+    client.system.zone = {300, true, true};
     EXPECT_EQ(LocalOffset(), -18000);
     EXPECT_NEAR(ToUniversal(45000.0), 45000.0 + 5.0 / 24.0, 1e-9);
     EXPECT_EQ(FormatGeneralDate(ToUniversal()), "7/4/2024 2:05:09 PM");  // an hour ahead in summer
 }
 
 TEST_F(Time, ThePresentIsInWholeSeconds) {
-    platform_.now = 1720098309999;
+    client.clock.SetEpoch(1720098309999);
     EXPECT_EQ(NowUnix(), 1720098309);
     EXPECT_EQ(FormatGeneralDate(NowDate()), "7/4/2024 1:05:09 PM");
-    platform_.now = -1;
+    client.clock.SetEpoch(-1);
     EXPECT_EQ(NowUnix(), -1);
-    platform_.now = 4133980800000;  // a calendar goes on where moments end
+    client.clock.SetEpoch(4133980800000);  // a calendar goes on where moments end
     EXPECT_THROW(NowUnix(), Failure);
     EXPECT_EQ(FormatGeneralDate(NowDate()), "1/1/2101");
 }

@@ -7,10 +7,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
-
 class TimerHandlerTest : public PluginTest {
 protected:
     static TimerHandler& timers() { return *Vars::TimerHandler; }
@@ -107,10 +103,13 @@ TEST_F(TimerHandlerTest, ACreatureThatIsSelectedIsAskedAboutAgain) {
     Advance(4s);
     EXPECT_THAT(CallsOf("IdentifyObject"), ElementsAre("IdentifyObject id=7", "IdentifyObject id=7"));
 
-    client.ObjectSelected(8);
-    Forget();
-    Advance(4s);
-    EXPECT_THAT(CallsOf("IdentifyObject"), IsEmpty());
+    client.object(7).Type = 24;
+    for (const host::Id id : {7, 8}) {
+        client.ObjectSelected(id);
+        Forget();
+        Advance(4s);
+        EXPECT_THAT(CallsOf("IdentifyObject"), IsEmpty()) << "neither a player nor a thing";
+    }
 }
 
 TEST_F(TimerHandlerTest, FriendsAreAskedForThreeSecondsAfterLogin) {

@@ -2,18 +2,10 @@
 
 #include <fmt/format.h>
 
-#include <string>
-#include <vector>
-
 #include "tests/support/PluginTest.h"
 
 namespace ombrel::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
 
 constexpr host::Id kCorpse = 0x100;
 constexpr std::string_view kFile = "Ombrel/Data/Ombrel_Data_Frostfell_Aldra.xml";

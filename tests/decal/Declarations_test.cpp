@@ -2,7 +2,6 @@
 //
 // What they say is held against the framework's own tables where those lie near the sources, in a folder "reference"
 // one step aside of the way up.
-#include <gmock/gmock.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -15,6 +14,9 @@
 #include <sstream>
 #include <string>
 #include <vector>
+
+#include "tests/support/Matchers.h"
+#include "tests/support/SourceFolder.h"
 
 namespace {
 
@@ -77,7 +79,7 @@ std::vector<Declared> ReadDeclarations() {
     static const std::regex event(R"(static constexpr DISPID (\w+) = (\d+);)");
 
     std::vector<Declared> all;
-    for (const auto& file : fs::directory_iterator(OMBREL_SOURCE_DIR "/adapters/decal/interfaces")) {
+    for (const auto& file : fs::directory_iterator(ombrel::test::SourceFolder() + "/adapters/decal/interfaces")) {
         if (file.path().filename() == "Member.h") continue;
         std::ifstream stream(file.path());
         for (std::string line; std::getline(stream, line);) {
@@ -100,7 +102,7 @@ std::vector<Declared> ReadDeclarations() {
 
 std::optional<fs::path> FindTables() {
     std::error_code ignored;
-    for (fs::path folder = OMBREL_SOURCE_DIR; folder.has_relative_path(); folder = folder.parent_path()) {
+    for (fs::path folder = ombrel::test::SourceFolder(); folder.has_relative_path(); folder = folder.parent_path()) {
         for (const auto& beside : fs::directory_iterator(folder, ignored)) {
             const auto tables = beside.path() / "reference" / "framework-interfaces.jsonl";
             if (fs::is_regular_file(tables, ignored)) return tables;

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <fstream>
 #include <regex>
@@ -8,13 +6,15 @@
 
 #include "core/Hub.h"
 #include "core/text.h"
+#include "tests/support/Matchers.h"
+#include "tests/support/SourceFolder.h"
 
 namespace ombrel {
 namespace {
 
 // The options view shows colours as icons of the plug-in's own file, by number.
 TEST(Icons, StandUnderTheNumbersOfTheirColours) {
-    const std::filesystem::path folder = OMBREL_SOURCE_DIR "/adapters/decal";
+    const std::filesystem::path folder = test::SourceFolder() + "/adapters/decal";
     static const std::regex row(R"re(^(\d+) ICON "(.+)\.ico"$)re");
     std::ifstream resources(folder / "Ombrel.rc.in");
     std::set<std::string> shown;

@@ -1,10 +1,9 @@
 #include "adapters/decal/WaveFile.h"
 
-#include <gtest/gtest.h>
-
 #include <string>
 
 #include "core/failure.h"
+#include "tests/support/Matchers.h"
 
 namespace ombrel::decal {
 namespace {

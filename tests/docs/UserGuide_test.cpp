@@ -1,6 +1,4 @@
 // The user guide against the options view, the commands and the hotkeys that it tells of.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -15,7 +13,7 @@
 namespace ombrel::test {
 namespace {
 
-const std::string kGuide = OMBREL_SOURCE_DIR "/docs/user-guide.md";
+const std::string kGuide = SourceFolder() + "/docs/user-guide.md";
 
 using Sections = std::map<std::string, std::vector<std::string>>;  // "Chat/Color": the lines below that heading
 
@@ -108,8 +106,8 @@ TEST_F(UserGuide, ShowsAPictureOfEveryTab) {
     for (const auto& [path, tab] : tabs) {
         std::string picture = path + ".png";
         picture.replace(picture.find('/'), 1, "-");
-        EXPECT_THAT(guide[path], testing::Contains(testing::HasSubstr("(tabs/" + picture + ")"))) << path;
-        EXPECT_TRUE(std::filesystem::exists(OMBREL_SOURCE_DIR "/docs/tabs/" + picture)) << picture;
+        EXPECT_THAT(guide[path], Contains(HasSubstr("(tabs/" + picture + ")"))) << path;
+        EXPECT_TRUE(std::filesystem::exists(SourceFolder() + "/docs/tabs/" + picture)) << picture;
     }
 }
 

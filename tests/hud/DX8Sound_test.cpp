@@ -5,11 +5,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::EndsWith;
-using testing::IsEmpty;
-using testing::SizeIs;
-
 class DX8SoundTest : public PluginTest {
 protected:
     DX8SoundTest() {

@@ -2,17 +2,11 @@
 
 #include <fmt/format.h>
 
-#include <ostream>
-#include <string>
-
 #include "core/cells.h"
 #include "tests/support/PluginTest.h"
 
 namespace ombrel::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr std::int32_t kIcon = 0x0D000001;
 constexpr std::int32_t kStack = 0x0D000006;
@@ -85,50 +79,37 @@ TEST_F(HUDItemHandlerTest, LearnsAnIconFromTheFirstItem) {
     Count();
     EXPECT_THAT(Items(), ElementsAre("0: 3 White 4711"));
     EXPECT_EQ(CellText(*options().HudItems, 6, 0), "4711");
-    EXPECT_THAT(common_data.Read("Ombrel/Settings/Ombrel_Settings_Frostfell_Aldra.xml"), testing::HasSubstr("4711"));
+    EXPECT_THAT(common_data.Read("Ombrel/Settings/Ombrel_Settings_Frostfell_Aldra.xml"), HasSubstr("4711"));
 }
-
-struct StockRow {
-    std::int32_t threshold, count;
-    const char* color;
-    const char* warning;
-
-    friend void PrintTo(const StockRow& row, std::ostream* out) { *out << row.count << " of " << row.threshold; }
-};
-
-class Stocks : public HUDItemHandlerTest, public testing::WithParamInterface<StockRow> {};
-
-TEST_P(Stocks, TurnYellowAndRedAndWarnOnce) {
-    const StockRow& stock = GetParam();
-    Watch("Taper", stock.threshold);
-    Have(1, "Taper", 1000);
-    Count();
-    Forget();
-    Have(1, "Taper", stock.count);
-    Count();
-    EXPECT_THAT(Items(), ElementsAre(fmt::format("0: {} {} 100", stock.count, stock.color)));
-    if (*stock.warning)
-        EXPECT_THAT(Texts(), ElementsAre(std::string("<Ombrel> ") + stock.warning + "Taper"));
-    else
-        EXPECT_THAT(Texts(), IsEmpty());
-    Forget();
-    Count();
-    EXPECT_THAT(Texts(), IsEmpty()) << "it has not changed since";
-}
-
-constexpr const char* kLow = "You are getting low on ";
-constexpr const char* kNearlyOut = "Warning! You are nearly out of ";
-constexpr const char* kOut = "Warning! You are out of ";
 
 // Yellow begins half above the threshold, and halves round to the even neighbour.
-INSTANTIATE_TEST_SUITE_P(ItemHud, Stocks,
-                         testing::Values(StockRow{10, 15, "White", ""}, StockRow{10, 14, "Yellow", kLow},
-                                         StockRow{10, 10, "Yellow", kLow}, StockRow{10, 9, "Red", kNearlyOut},
-                                         StockRow{10, 1, "Red", kNearlyOut}, StockRow{10, 0, "Red", kOut},
-                                         StockRow{5, 7, "White", ""}, StockRow{5, 6, "Yellow", kLow},
-                                         StockRow{3, 5, "White", ""}, StockRow{3, 4, "Yellow", kLow},
-                                         StockRow{1, 1, "White", ""}, StockRow{1, 0, "Red", kOut},
-                                         StockRow{0, 1, "White", ""}, StockRow{0, 0, "White", ""}));
+TEST_F(HUDItemHandlerTest, AStockTurnsYellowAndRedAndWarnsOnce) {
+    const std::string low = "<Ombrel> You are getting low on Taper";
+    const std::string nearly_out = "<Ombrel> Warning! You are nearly out of Taper";
+    const std::string out = "<Ombrel> Warning! You are out of Taper";
+    const struct {
+        std::int32_t threshold, count;
+        const char* color;
+        std::string warning;
+    } rows[] = {{10, 15, "White", ""},      {10, 14, "Yellow", low},    {10, 10, "Yellow", low},
+                {10, 9, "Red", nearly_out}, {10, 1, "Red", nearly_out}, {10, 0, "Red", out},
+                {5, 7, "White", ""},        {5, 6, "Yellow", low},      {3, 5, "White", ""},
+                {3, 4, "Yellow", low},      {1, 1, "White", ""},        {1, 0, "Red", out},
+                {0, 1, "White", ""},        {0, 0, "White", ""}};
+    Watch("Taper", 0);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(fmt::format("{} of {}", row.count, row.threshold));
+        options().HudItems->SetData(2, 0, std::to_string(row.threshold));
+        Have(1, "Taper", 1000);
+        Count();
+        Forget();
+        Have(1, "Taper", row.count);
+        Count();
+        EXPECT_THAT(Items(), ElementsAre(fmt::format("0: {} {} 100", row.count, row.color)));
+        Count();  // it has not changed since
+        EXPECT_EQ(Texts(), row.warning.empty() ? std::vector<std::string>() : std::vector{row.warning});
+    }
+}
 
 TEST_F(HUDItemHandlerTest, WarningsOfOneCountStandInOneLine) {
     Watch("Taper", 10);

@@ -1,8 +1,5 @@
 #include "hud/HUDMainHandler.h"
 
-#include <ostream>
-#include <string>
-
 #include "bench/Allocations.h"
 #include "core/Hub.h"
 #include "spells/SpellHandler.h"
@@ -12,10 +9,6 @@
 
 namespace ombrel::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 class HUDMainHandlerTest : public PluginTest {
 protected:
@@ -53,83 +46,63 @@ protected:
     Paper paper;
 };
 
-struct LineRow {
-    const char* row;
-    const char* key;
-    const char* long_label;
-    const char* short_label;
-    Ref<host::StaticText> ControlHandler::*text;
-
-    friend void PrintTo(const LineRow& line, std::ostream* out) { *out << line.row; }
-};
-
-class Lines : public HUDMainHandlerTest, public testing::WithParamInterface<LineRow> {};
-
-TEST_P(Lines, ShowWhatTheOptionsViewShows) {
-    const LineRow& line = GetParam();
-    TurnOn(line.row, "Yellow");
-    (options().*line.text)->SetText("1,234");
-    handler().UpdateHUD();
-    ASSERT_EQ(handler().MainHud->count(), 1u);
-    const auto& [key, item] = *handler().MainHud->items().begin();
-    EXPECT_EQ(key, line.key);
-    EXPECT_EQ(item.data, std::string(line.long_label) + "1,234");
-    EXPECT_EQ(item.color, "Yellow");
-    EXPECT_EQ(item.icon, -1);
-    EXPECT_TRUE(item.newline);
-    options().HudMainLbl->SetChecked(true);
-    handler().UpdateHUD();
-    EXPECT_THAT(HUDMainHandlerTest::Lines(), ElementsAre(std::string(line.short_label) + "1,234"));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    MainHud, Lines,
-    testing::Values(LineRow{"Session Time", "STM", "Session Time: ", "STime: ", &ControlHandler::SessionTime},
-                    LineRow{"Session XP", "SXP", "Session XP: ", "SXP: ", &ControlHandler::XPSession},
-                    LineRow{"Session XP/Hour", "XPH", "Session XP/H: ", "SXP/H: ", &ControlHandler::XPHour},
-                    LineRow{"Total Time", "TTM", "Total Time: ", "TTime: ", &ControlHandler::TotalTime},
-                    LineRow{"Total XP", "TXP", "Total XP: ", "TXP: ", &ControlHandler::TotalXP},
-                    LineRow{"Total XP/Hour", "TXPH", "Total XP/H: ", "TXP/H: ", &ControlHandler::TotalXPHour},
-                    LineRow{"5 Minute Avg", "5MIN", "5 Min Avg: ", "5Min: ", &ControlHandler::XP5Min},
-                    LineRow{"Next Level", "XPL", "XP to Level: ", "XPL: ", &ControlHandler::XPNext},
-                    LineRow{"Unassigned", "XPU", "Unassigned: ", "Un: ", &ControlHandler::XPUn},
-                    LineRow{"Level", "Lev", "Level: ", "Level: ", &ControlHandler::LevelNum},
-                    LineRow{"Kills", "Kil", "Kills: ", "Kills: ", &ControlHandler::Kills},
-                    LineRow{"Next Buff", "NxB", "Next Buff: ", "Buff: ", &ControlHandler::SpellsTracked},
-                    LineRow{"XP Change", "XPC", "XP Change: ", "XPC: ", &ControlHandler::XPChange}));
-
-TEST_F(HUDMainHandlerTest, LinesStandInTheOrderOfTheList) {
-    for (const char* name : {"Kills", "Level", "Unassigned"}) TurnOn(name);
-    std::vector<std::string> expected;
-    host::List& list = *options().HudList;
-    for (std::int32_t row = 0; row < list.Count(); ++row)
-        if (std::get<bool>(list.Data(0, row))) expected.push_back(std::get<std::string>(list.Data(1, row)) + ": ");
-    handler().CreateHUD();
-    ASSERT_EQ(Lines().size(), 3u);
-    for (std::size_t i = 0; i < 3; ++i) EXPECT_THAT(Lines()[i], testing::StartsWith(expected[i]));
-}
-
-TEST_F(HUDMainHandlerTest, ALineThatIsSwitchedOffGoesWithTheNextNewHud) {
-    TurnOn("Kills");
-    TurnOn("Level");
-    handler().CreateHUD();
-    options().HudList->SetData(0, options().FindName("Kills", "HudList"), false);
-    options().Kills->SetText("7");
-    handler().UpdateHUD();
-    EXPECT_THAT(Lines(), testing::UnorderedElementsAre("Level: 42", "Kills: 0"));
-    handler().CreateHUD();
-    EXPECT_THAT(Lines(), ElementsAre("Level: 42"));
-}
-
-TEST_F(HUDMainHandlerTest, RowsThatNobodyKnowsAddNothing) {
-    options().HudList->SetData(1, 0, std::string("Fame"));
+TEST_F(HUDMainHandlerTest, EachLineShowsWhatTheOptionsViewShows) {
+    using C = ControlHandler;
+    const struct {
+        const char *row, *key, *long_label, *short_label;
+        Ref<host::StaticText> C::*text;
+    } rows[] = {{"Session Time", "STM", "Session Time: ", "STime: ", &C::SessionTime},
+                {"Session XP", "SXP", "Session XP: ", "SXP: ", &C::XPSession},
+                {"Session XP/Hour", "XPH", "Session XP/H: ", "SXP/H: ", &C::XPHour},
+                {"Total Time", "TTM", "Total Time: ", "TTime: ", &C::TotalTime},
+                {"Total XP", "TXP", "Total XP: ", "TXP: ", &C::TotalXP},
+                {"Total XP/Hour", "TXPH", "Total XP/H: ", "TXP/H: ", &C::TotalXPHour},
+                {"5 Minute Avg", "5MIN", "5 Min Avg: ", "5Min: ", &C::XP5Min},
+                {"Next Level", "XPL", "XP to Level: ", "XPL: ", &C::XPNext},
+                {"Unassigned", "XPU", "Unassigned: ", "Un: ", &C::XPUn},
+                {"Level", "Lev", "Level: ", "Level: ", &C::LevelNum},
+                {"Kills", "Kil", "Kills: ", "Kills: ", &C::Kills},
+                {"Next Buff", "NxB", "Next Buff: ", "Buff: ", &C::SpellsTracked},
+                {"XP Change", "XPC", "XP Change: ", "XPC: ", &C::XPChange}};
+    for (const auto& line : rows) {
+        SCOPED_TRACE(line.row);
+        TurnOn(line.row, "Yellow");
+        (options().*line.text)->SetText("1,234");
+        options().HudMainLbl->SetChecked(false);
+        handler().CreateHUD();
+        ASSERT_EQ(handler().MainHud->count(), 1u);
+        const auto& [key, item] = *handler().MainHud->items().begin();
+        EXPECT_EQ(key, line.key);
+        EXPECT_EQ(item.data, std::string(line.long_label) + "1,234");
+        EXPECT_EQ(item.color, "Yellow");
+        EXPECT_EQ(item.icon, -1);
+        EXPECT_TRUE(item.newline);
+        options().HudMainLbl->SetChecked(true);
+        handler().UpdateHUD();
+        EXPECT_THAT(Lines(), ElementsAre(std::string(line.short_label) + "1,234"));
+        options().HudList->SetData(0, options().FindName(line.row, "HudList"), false);
+    }
+    options().HudList->SetData(1, 0, std::string("Fame"));  // which nobody knows
     options().HudList->SetData(0, 0, true);
     handler().CreateHUD();
     EXPECT_THAT(Lines(), IsEmpty());
-    options().HudList->Clear();
-    handler().CreateHUD();
-    EXPECT_THAT(Lines(), IsEmpty());
     EXPECT_EQ(handler().MainHud->frame.width(), 20);
+}
+
+TEST_F(HUDMainHandlerTest, LinesStandInTheOrderOfTheListUntilTheHudIsNew) {
+    TurnOn("Kills");
+    TurnOn("Level");
+    handler().CreateHUD();
+    EXPECT_THAT(Lines(), ElementsAre("Level: 42", "Kills: 0"));
+    options().HudList->SetData(0, options().FindName("Kills", "HudList"), false);
+    options().Kills->SetText("7");
+    Advance(1s);
+    EXPECT_THAT(Lines(), ElementsAre("Level: 42", "Kills: 0"));
+    handler().CreateHUD();
+    EXPECT_THAT(Lines(), ElementsAre("Level: 42"));
+    options().LevelNum->SetText("43");
+    Advance(1s);
+    EXPECT_THAT(Lines(), ElementsAre("Level: 43")) << "by its timer";
 }
 
 TEST_F(HUDMainHandlerTest, TellsWhereTheCharacterStands) {
@@ -250,14 +223,6 @@ TEST_F(HUDMainHandlerTest, LinesBeforeAFailureStand) {
     EXPECT_THAT(Lines(), IsEmpty());
     handler().UpdateHUD();
     EXPECT_EQ(Lines().size(), 2u);
-}
-
-TEST_F(HUDMainHandlerTest, ItsTimerRefreshesIt) {
-    TurnOn("Kills");
-    handler().CreateHUD();
-    options().Kills->SetText("3");
-    Advance(1s);
-    EXPECT_THAT(Lines(), ElementsAre("Kills: 3"));
 }
 
 }  // namespace

@@ -1,15 +1,10 @@
 #include "hud/HUDStatusHandler.h"
 
-#include <string>
-
 #include "bench/Allocations.h"
 #include "tests/support/PluginTest.h"
 
 namespace ombrel::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class HUDStatusHandlerTest : public PluginTest {
 protected:
@@ -74,18 +69,14 @@ TEST_F(HUDStatusHandlerTest, ARepeatedMessageLivesOn) {
     EXPECT_THAT(Lines(), ElementsAre("3=a", "2=b", "1=a"));
 }
 
-TEST_F(HUDStatusHandlerTest, WithOneLineTheLastMessageStands) {
+TEST_F(HUDStatusHandlerTest, WithOneLineTheLastMessageStandsAndAChoiceWithoutEntryIsReported) {
     options().HudStatusLines->SetSelected(0);
+    client.StatusText("c");
     client.StatusText("a");
-    client.StatusText("b");
-    EXPECT_THAT(Lines(), ElementsAre("1=b"));
-}
-
-TEST_F(HUDStatusHandlerTest, AChoiceWithoutEntryIsReported) {
-    client.StatusText("a");
+    EXPECT_THAT(Lines(), ElementsAre("1=a"));
     options().HudStatusLines->SetSelected(-1);
     client.StatusText("b");
-    EXPECT_THAT(TakeReports(), ElementsAre(testing::EndsWith("occured in 'AddMessage' of class 'HUDStatusHandler'")));
+    EXPECT_THAT(TakeReports(), ElementsAre(EndsWith("occured in 'AddMessage' of class 'HUDStatusHandler'")));
 }
 
 TEST_F(HUDStatusHandlerTest, AQuietSecondDrawsNothingAndTakesNoMemory) {

@@ -6,15 +6,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::Contains;
-using testing::Each;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
-using testing::StartsWith;
-using testing::UnorderedElementsAre;
-
 constexpr host::Id kOther = 0x5DB00202;
 
 class Debuffs : public TargetTest {
@@ -46,24 +37,22 @@ TEST_F(Debuffs, AreTheSpellsOfTheLevelThatThePlayerClaims) {
     const struct {
         std::int32_t code, level;
         const char* debuff;
-    } rows[] = {
-        {23, 6, "38: Vulnerability Other VI, 210"},
-        {44, 1, "110: Fire Vulnerability Other I, 60"},
-        {46, 2, "112: Piercing Vulnerability Other II, 90"},
-        {48, 6, "114: Blade Vulnerability Other VI, 210"},
-        {50, 3, "102: Acid Vulnerability Other III, 120"},
-        {52, 4, "106: Cold Vulnerability Other IV, 150"},
-        {54, 5, "108: Lightning Vulnerability Other V, 180"},
-        {56, 6, "116: Imperil Other VI, 210"},
-        {23, 7, "42: Futility, 240"},
-        {44, 7, "110: Inferno's Gift, 240"},
-        {46, 7, "112: Archer's Gift, 240"},
-        {48, 7, "114: Swordsman's Gift, 240"},
-        {50, 7, "102: Olthoi's Gift, 240"},
-        {52, 7, "106: Gelidite's Gift, 240"},
-        {54, 7, "108: Astyrrian's Gift, 240"},
-        {56, 7, "116: Gossamer Flesh, 240"},
-    };
+    } rows[] = {{23, 6, "38: Vulnerability Other VI, 210"},
+                {23, 7, "42: Futility, 240"},
+                {44, 1, "110: Fire Vulnerability Other I, 60"},
+                {44, 7, "110: Inferno's Gift, 240"},
+                {46, 2, "112: Piercing Vulnerability Other II, 90"},
+                {46, 7, "112: Archer's Gift, 240"},
+                {48, 6, "114: Blade Vulnerability Other VI, 210"},
+                {48, 7, "114: Swordsman's Gift, 240"},
+                {50, 3, "102: Acid Vulnerability Other III, 120"},
+                {50, 7, "102: Olthoi's Gift, 240"},
+                {52, 4, "106: Cold Vulnerability Other IV, 150"},
+                {52, 7, "106: Gelidite's Gift, 240"},
+                {54, 5, "108: Lightning Vulnerability Other V, 180"},
+                {54, 7, "108: Astyrrian's Gift, 240"},
+                {56, 6, "116: Imperil Other VI, 210"},
+                {56, 7, "116: Gossamer Flesh, 240"}};
     for (const auto& row : rows) {
         Claim(row.level);
         TellEffect(row.code);
@@ -85,15 +74,6 @@ TEST_F(Debuffs, ComeFromNothingElse) {
     EXPECT_TRUE(
         CalledInOrder({fmt::format("AddSpell {} -1 -1", kTarget), fmt::format("RemoveDebuffSpell {} -1", kTarget)}));
     Vars::DebugMode = false;
-}
-
-TEST_F(Debuffs, LastAsLongAsTheirSpell) {
-    Claim(1);
-    TellEffect(48);
-    Advance(59s);
-    EXPECT_THAT(On(), ElementsAre("114: Blade Vulnerability Other I, 1"));
-    Advance(1s);
-    EXPECT_THAT(canvas().debuffs(), IsEmpty());
 }
 
 TEST_F(Debuffs, GiveWayToStrongerAndAreRenewedByEqualOnes) {
@@ -127,7 +107,9 @@ TEST_F(Debuffs, StayWithTheirCreature) {
     client.ReleaseObject(kOther);
     EXPECT_THAT(On(kOther), IsEmpty());
     EXPECT_EQ(canvas().Object(), nullptr);
-    Advance(200s);
+    Advance(199s);
+    EXPECT_THAT(On(kTarget), ElementsAre("114: Blade Vulnerability Other VI, 1", "116: Imperil Other VI, 1"));
+    Advance(1s);
     EXPECT_THAT(canvas().debuffs(), IsEmpty()) << "counted down without a target";
 }
 
@@ -190,13 +172,6 @@ TEST_F(Debuffs, AreDrawnEachSecondWithTheMinutesBegun) {
     EXPECT_THAT(Drawn(), IsEmpty());
 }
 
-TEST_F(Debuffs, OfOtherFamiliesAreTimedButDoNotShow) {
-    Claim(7);
-    TellEffect(23);
-    EXPECT_THAT(On(), ElementsAre("42: Futility, 240"));
-    EXPECT_THAT(Drawn(), IsEmpty());
-}
-
 TEST_F(Debuffs, ShowWithTheirCreatureOnly) {
     Claim(6);
     TellEffect(48, kOther);
@@ -205,50 +180,10 @@ TEST_F(Debuffs, ShowWithTheirCreatureOnly) {
     EXPECT_THAT(DrawnImages(), Contains(StartsWith("100668348")));
     client.ObjectSelected(kTarget);
     EXPECT_THAT(DrawnImages(), Each(StartsWith("100667446"))) << "only the creature";
-}
-
-// The handler.
-
-TEST_F(Debuffs, FollowTheSelectionOfThePlayer) {
-    Vars::DebugMode = true;
-    client.ObjectSelected(kOther);
-    EXPECT_TRUE(CalledInOrder({"Set Object Drudge Prowler"}));
-    Vars::DebugMode = false;
-    host::WorldObjectPtr object;
-    EXPECT_TRUE(Vars::HUDTargetHandler->GetObject(object));
-    EXPECT_EQ(object->GUID(), kOther);
-    client.ObjectSelected(0);
-    EXPECT_FALSE(Vars::HUDTargetHandler->GetObject(object));
-    EXPECT_EQ(object, nullptr);
-}
-
-TEST_F(Debuffs, AreAskedForEachSecondSecond) {
-    Forget();
-    Advance(4s);
-    EXPECT_THAT(CallsOf("IdentifyObject"),
-                ElementsAre(HasSubstr(std::to_string(kTarget)), HasSubstr(std::to_string(kTarget))));
-    Drudge().Type = 24;
-    Forget();
-    Advance(4s);
-    EXPECT_THAT(CallsOf("IdentifyObject"), IsEmpty()) << "players are not asked about again";
-}
-
-TEST_F(Debuffs, HaveATitleBarWithTwoButtons) {
-    auto& handler = *Vars::HUDTargetHandler;
-    HudFrame& frame = canvas().frame;
-    const std::int32_t right = frame.x() + frame.width();
-    const std::int32_t middle = frame.y() + 7;
-    EXPECT_TRUE(handler.WithinTitle(frame.x() + 10, middle));
-    EXPECT_FALSE(handler.WithinTitle(frame.x() + 10, frame.y() + 20));
-
-    handler.ClickHUD(right - 15, middle);
-    EXPECT_FALSE(frame.DrawTitle);
-    EXPECT_THAT(Texts(),
-                Contains("<Ombrel> Click on the HUD while holding shift to reshow the title bar.  Click on the "
-                         "HUD while holding control to move the hud"));
-    frame.DrawTitle = true;
-    handler.ClickHUD(right - 4, middle);
-    EXPECT_FALSE(frame.Enabled());
+    Claim(7);
+    TellEffect(23);
+    EXPECT_THAT(On(), ElementsAre("42: Futility, 240"));
+    EXPECT_THAT(DrawnImages(), Each(StartsWith("100667446"))) << "a debuff of another family has no place";
 }
 
 TEST_F(Debuffs, FailByName) {
@@ -258,11 +193,6 @@ TEST_F(Debuffs, FailByName) {
     FailNext("Spells.ByID");
     TellEffect(48);
     EXPECT_THAT(TakeReports(), ElementsAre("Error #5 occured in 'GetFamily' of class 'SpellFilterHandler'"));
-    const auto level = options().HudTargetLevel;
-    options().HudTargetLevel = {};
-    TellEffect(48);
-    options().HudTargetLevel = level;
-    EXPECT_THAT(TakeReports(), ElementsAre("Error #91 occured in 'Debuff' of class 'HUDTargetHandler'"));
 }
 
 }  // namespace

@@ -2,23 +2,14 @@
 #include "hud/HudMouse.h"
 
 #include <array>
-#include <ostream>
-#include <string>
 
 #include "bench/Allocations.h"
+#include "config/HudRows.h"
 #include "core/cells.h"
-#include "hud/HUDClockHandler.h"
-#include "hud/HUDItemHandler.h"
-#include "hud/HUDMainHandler.h"
-#include "hud/HUDStatusHandler.h"
-#include "hud/HUDTargetHandler.h"
 #include "tests/support/PluginTest.h"
 
 namespace ombrel::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr std::int32_t kMove = 512;
 constexpr std::int32_t kPress = 513;
@@ -50,21 +41,7 @@ protected:
         PluginTest::TearDown();
     }
 
-    static HudFrame& frame(Hud hud) {
-        switch (hud) {
-            case kClock:
-                return Vars::HUDClockHandler->ClockHUD->frame;
-            case kMain:
-                return Vars::HUDMainHandler->MainHud->frame;
-            case kItem:
-                return Vars::HUDItemHandler->ItemHUD->frame;
-            case kStatus:
-                return Vars::HUDStatusHandler->StatusHud->frame;
-            case kTarget:
-                break;
-        }
-        return Vars::HUDTargetHandler->TargetHud->frame;
-    }
+    static HudFrame& frame(Hud hud) { return hud::FrameOf(kRows[hud]); }
     static host::Point Place(Hud hud) { return {frame(hud).x(), frame(hud).y()}; }
 
     // Points of a display.
@@ -280,7 +257,7 @@ TEST_F(HudMouseTest, FarPointsAreReportedAndHarmNothing) {
     Mouse(kPress, Body(kClock));
     client.WindowMessage(kMove, 2147483647, -2147483647 - 1, 0, 0);
     client.WindowMessage(kRelease, -2147483647 - 1, 2147483647, 0, 0);
-    EXPECT_THAT(TakeReports(), testing::Each(testing::HasSubstr("Error #6 occured in")));
+    EXPECT_THAT(TakeReports(), Each(HasSubstr("Error #6 occured in")));
     EXPECT_FALSE(frame(kClock).OnCanvas);
 }
 

@@ -5,15 +5,13 @@
 //
 //     OMBREL_WRITE_PICTURES=1 build-dev/bin/ombrel-tests --gtest_filter='HudPictures.*'
 #include <fmt/format.h>
-#include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <map>
-#include <string>
 
 #include "adapters/sim/draw/HudScreen.h"
+#include "core/files.h"
 #include "tests/replay/Replay.h"
 
 namespace ombrel::sim {
@@ -21,7 +19,6 @@ namespace {
 
 constexpr std::int32_t kBlock = 8;
 constexpr std::int32_t kTolerance = 16;  // of 255, in one colour of one block
-constexpr const char* kReferences = OMBREL_SOURCE_DIR "/tests/hud/pictures/";
 
 // The mean colours of the blocks, as a picture in the plainest of formats.
 std::string InBlocks(const Picture& picture) {
@@ -50,8 +47,7 @@ std::map<std::string, std::string> Pictures() {
         if (note.starts_with(kMark))
             pictures.emplace(note.substr(kMark.size()), InBlocks(screen.Show(replay.client.hooks.Region3D)));
     };
-    std::ifstream story(OMBREL_SOURCE_DIR "/sessions/displays.jsonl");
-    for (std::string line; std::getline(story, line);) replay.Play(line);
+    replay.PlayStory("displays");
     return pictures;
 }
 
@@ -59,10 +55,9 @@ TEST(HudPictures, LookLikeTheirReferences) {
     const auto pictures = Pictures();
     ASSERT_EQ(pictures.size(), 2u);
     for (const auto& [name, picture] : pictures) {
-        const std::string path = kReferences + name + ".ppm";
+        const std::string path = test::SourceFolder() + "/tests/hud/pictures/" + name + ".ppm";
         if (std::getenv("OMBREL_WRITE_PICTURES")) std::ofstream(path, std::ios::binary) << picture;
-        std::ifstream file(path, std::ios::binary);
-        const std::string reference{std::istreambuf_iterator<char>(file), {}};
+        const std::string reference = ReadFile(path);
         const std::size_t head = reference.find('\n');
         ASSERT_EQ(picture.substr(0, picture.find('\n')), reference.substr(0, head)) << name;
         ASSERT_EQ(picture.size(), reference.size()) << name;

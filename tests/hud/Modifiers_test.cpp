@@ -1,10 +1,9 @@
 #include "hud/Modifiers.h"
 
-#include <gtest/gtest.h>
-
 #include <memory>
 
 #include "adapters/sim/World.h"
+#include "tests/support/Matchers.h"
 
 namespace ombrel::target {
 namespace {

@@ -1,5 +1,4 @@
 // A client without surfaces, or one that loses them: the plug-in goes on without its displays.
-#include <string>
 
 #include "hud/HUDClockHandler.h"
 #include "hud/HUDItemHandler.h"
@@ -12,15 +11,12 @@
 namespace ombrel::test {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
-
 class RenderServiceTest : public PluginTest {
 protected:
-    void SetUp() override { client.screen = &paper; }
+    void SetUp() override {
+        client.screen = &paper;
+        client.object(client.sheet.Character).Coordinates = host::Position{1, 2};
+    }
 
     // Everything that draws, and what else a player does meanwhile.
     void Play() {
@@ -45,7 +41,6 @@ protected:
 
 TEST_F(RenderServiceTest, WithoutTheServiceThePluginWorks) {
     client.missing_services.insert("RenderService");
-    client.object(client.sheet.Character).Coordinates = host::Position{1, 2};
     LogIn();
     EXPECT_TRUE(Vars::HudFailed);
     EXPECT_THAT(TakeReports(), ElementsAre(HasSubstr("Error #429 occured in 'Class_Initialize'")));
@@ -57,7 +52,6 @@ TEST_F(RenderServiceTest, WithoutTheServiceThePluginWorks) {
 
 TEST_F(RenderServiceTest, WithoutSurfacesThePluginWorks) {
     client.render_available = false;
-    client.object(client.sheet.Character).Coordinates = host::Position{1, 2};
     LogIn();
     EXPECT_THAT(TakeReports(),
                 ElementsAre("Error #0 occured in 'CreateHUD Failure100 5 300 205' of class 'HudHandler'"));
@@ -74,19 +68,17 @@ TEST_F(RenderServiceTest, WithoutSurfacesThePluginWorks) {
 }
 
 TEST_F(RenderServiceTest, ASurfaceThatIsLostInPlayEndsTheDisplays) {
-    client.object(client.sheet.Character).Coordinates = host::Position{1, 2};
     LogIn();
     client.calls.Fail(*sim::FindOperation("RenderService.CreateHUD"), 1, 7, "no memory");
     options().Kills->SetText("1,000,000,000,000,000,000");
     Vars::HUDMainHandler->UpdateHUD();
-    EXPECT_THAT(TakeReports(), ElementsAre(testing::StartsWith("Error #7 occured in 'CreateHUD Failure318 8 ")));
+    EXPECT_THAT(TakeReports(), ElementsAre(StartsWith("Error #7 occured in 'CreateHUD Failure318 8 ")));
     paper.Take();
     Play();
     EXPECT_THAT(paper.Take(), IsEmpty());
 }
 
 TEST_F(RenderServiceTest, ALostDeviceBringsAllFiveBack) {
-    client.object(client.sheet.Character).Coordinates = host::Position{1, 2};
     LogIn();
     client.StatusText("You're too busy!");
     client.object(0x101).Name = "Drudge";

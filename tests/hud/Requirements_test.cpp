@@ -1,12 +1,11 @@
 #include "hud/Requirements.h"
 
-#include <gtest/gtest.h>
-
 #include <memory>
 #include <optional>
 
 #include "adapters/sim/World.h"
 #include "core/failure.h"
+#include "tests/support/Matchers.h"
 
 namespace ombrel::target {
 namespace {

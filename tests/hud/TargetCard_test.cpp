@@ -7,17 +7,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::AllOf;
-using testing::Contains;
-using testing::Each;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
-using testing::SizeIs;
-using testing::StartsWith;
-
-constexpr std::string_view kFirstMeasure = "99.99-99, 99 99 9.9, Wk 9, Tk 10";
 constexpr std::string_view kMeasure = "99.99-99, 99 99 9.9 9.9, Wk 10, Tk 10";
 
 std::int32_t WidthOf(std::string_view text, std::string_view face, std::int32_t size) {
@@ -34,21 +23,19 @@ protected:
     static std::string RowRect(std::int32_t row) {
         return Rect(row == 0 ? 22 : 3, 15 + 17 * row, frame().width() - 2, 32 + 17 * row);
     }
+    void LookAtTheDrudge() {
+        Drudge();
+        client.ObjectSelected(kTarget);
+        Forget();
+    }
     void MoveTo(std::int32_t x, std::int32_t y) { client.WindowMessage(512, x, y, 0, 0); }
 };
 
 TEST_F(TargetCardTest, IsAsLargeAsItsFontAsks) {
-    GameSession other;
-    other.Start();
-    EXPECT_EQ(canvas().frame.width(), WidthOf(kFirstMeasure, "Arial", 16));
-    EXPECT_EQ(canvas().frame.height(), 14 + 1 + 2 + 6 * 17);
-    EXPECT_THAT(other.CallsOf("HudViewCreate"),
-                Contains(fmt::format("HudViewCreate left=5 top=100 right={} bottom=219 ok=true",
-                                     5 + WidthOf(kFirstMeasure, "Arial", 16))));
-    other.client.Terminate();
-}
-
-TEST_F(TargetCardTest, ChangesItsSizeWithTheFont) {
+    client.Terminate();
+    Start();
+    EXPECT_EQ(frame().width(), WidthOf("99.99-99, 99 99 9.9, Wk 9, Tk 10", "Arial", 16)) << "at first";
+    EXPECT_EQ(frame().height(), 14 + 1 + 2 + 6 * 17);
     for (const auto& [face, size] : {std::pair{"Arial", 16}, {"Courier New", 12}, {"Arial", 8}, {"Arial", 24}}) {
         frame().SetFontFace(face);
         frame().SetFontSize(size);
@@ -122,8 +109,7 @@ TEST_F(TargetCardTest, IsPaintedInFullAtEachOutput) {
 }
 
 TEST_F(TargetCardTest, AsksForNothingWhileNothingHappens) {
-    Drudge();
-    client.ObjectSelected(kTarget);
+    LookAtTheDrudge();
     TellIdentity(18, 36);
     TellEffect(48);
     const auto counts = [this] {
@@ -145,8 +131,7 @@ TEST_F(TargetCardTest, AsksForNothingWhileNothingHappens) {
 }
 
 TEST_F(TargetCardTest, FadesItsTitleWithoutReadingTheTargetAgain) {
-    Drudge();
-    client.ObjectSelected(kTarget);
+    LookAtTheDrudge();
     MoveTo(20, 120);
     const auto reads = client.calls.Count(*sim::FindOperation("WorldObject.Long"));
     Forget();
@@ -159,9 +144,7 @@ TEST_F(TargetCardTest, FadesItsTitleWithoutReadingTheTargetAgain) {
 // Health.
 
 TEST_F(TargetCardTest, DrawsHealthUnderTheName) {
-    Drudge();
-    client.ObjectSelected(kTarget);
-    Forget();
+    LookAtTheDrudge();
     TellIdentity(18, 36);
     const std::int32_t right = frame().width() - 2;
     const std::int32_t half = 3 + (right - 3 - 1 + 1) / 2;
@@ -190,8 +173,7 @@ TEST_F(TargetCardTest, DrawsHealthUnderTheName) {
 }
 
 TEST_F(TargetCardTest, DrawsHealthAloneBetweenABeginningAndAnEnd) {
-    Drudge();
-    client.ObjectSelected(kTarget);
+    LookAtTheDrudge();
     TellIdentity(18, 36);
     for (const char* when : {"new", "the same as before"}) {
         SCOPED_TRACE(when);
@@ -223,9 +205,7 @@ TEST_F(TargetCardTest, KnowsARatioBeforeTheFigures) {
 }
 
 TEST_F(TargetCardTest, IgnoresTheHealthOfOthers) {
-    Drudge();
-    client.ObjectSelected(kTarget);
-    Forget();
+    LookAtTheDrudge();
     TellHealth(0.5, kTarget + 1);
     canvas().SetObject(nullptr);
     Forget();
@@ -258,9 +238,7 @@ TEST_F(TargetCardTest, TakesTheLookThatThePlayerChose) {
 }
 
 TEST_F(TargetCardTest, IsClearWithoutATarget) {
-    Drudge();
-    client.ObjectSelected(kTarget);
-    Forget();
+    LookAtTheDrudge();
     client.ObjectSelected(0);
     const std::string inside = Rect(2, 14, frame().width() - 2, frame().height() - 2);
     EXPECT_THAT(CallsOf("Fill"), AllOf(Contains(HasSubstr(inside + " color=0")), Each(HasSubstr("color=0"))));
@@ -288,28 +266,23 @@ TEST_F(TargetCardTest, ShowsNoTitleWithoutATarget) {
     Advance(900ms);
     EXPECT_THAT(CallsOf("DrawText"), IsEmpty()) << "the fade is over";
 
-    // The target goes while the title shows.
-    Drudge();
-    client.ObjectSelected(kTarget);
-    MoveTo(20, 121);
-    Advance(250ms);
-    EXPECT_EQ(frame().Fade(), 10);
-    Forget();
-    client.ReleaseObject(kTarget);
-    EXPECT_THAT(CallsOf("Fill"), Contains(HasSubstr(Rect(0, 14, 2, frame().height()) + " color=0")))
-        << "a clear frame in full fade too";
-    MoveTo(700, 500);
-    Advance(25ms);
-    EXPECT_EQ(frame().Fade(), 0);
-}
-
-TEST_F(TargetCardTest, LosesItsTitleWithTheSelection) {
-    Drudge();
-    client.ObjectSelected(kTarget);
-    MoveTo(20, 120);
-    Advance(250ms);
-    client.ObjectSelected(0);
-    EXPECT_EQ(frame().Fade(), 0);
+    for (const bool released : {true, false}) {
+        LookAtTheDrudge();
+        MoveTo(20, 121);
+        Advance(250ms);
+        EXPECT_EQ(frame().Fade(), 10);
+        Forget();
+        if (released) {
+            client.ReleaseObject(kTarget);
+            EXPECT_THAT(CallsOf("Fill"), Contains(HasSubstr(Rect(0, 14, 2, frame().height()) + " color=0")))
+                << "a clear frame in full fade too";
+            MoveTo(700, 500);
+            Advance(25ms);
+        } else {
+            client.ObjectSelected(0);
+        }
+        EXPECT_EQ(frame().Fade(), 0);
+    }
 }
 
 TEST_F(TargetCardTest, IsNotDrawnWhileItIsOff) {
@@ -392,8 +365,7 @@ TEST_F(TargetCardTest, DrawsLaterWhatFailedToBeDrawn) {
 }
 
 TEST_F(TargetCardTest, EndsWhatItBeganWhenDrawingAloneFails) {
-    Drudge();
-    client.ObjectSelected(kTarget);
+    LookAtTheDrudge();
     for (const char* operation : {"HudView.BeginText", "HudView.EndText", "HudView.EndRender"}) {
         SCOPED_TRACE(operation);
         TellIdentity(36, 36);
@@ -406,8 +378,7 @@ TEST_F(TargetCardTest, EndsWhatItBeganWhenDrawingAloneFails) {
 }
 
 TEST_F(TargetCardTest, ComesBackAfterTheDeviceWasLost) {
-    Drudge();
-    client.ObjectSelected(kTarget);
+    LookAtTheDrudge();
     TellEffect(48);
     Vars::DebugMode = true;
     Forget();
@@ -427,24 +398,6 @@ TEST_F(TargetCardTest, ComesBackAfterTheDeviceWasLost) {
     Forget();
     frame().DrawHUD();
     EXPECT_THAT(DrawnTexts(), ElementsAre("Drudge Prowler", "Level 8", "4"));
-}
-
-TEST_F(TargetCardTest, GivesUpWithAllOtherDisplays) {
-    Drudge();
-    client.ObjectSelected(kTarget);
-    client.render_available = false;
-    client.DeviceLost();
-    EXPECT_TRUE(Vars::HudFailed);
-    EXPECT_THAT(TakeReports(), SizeIs(1));
-    Forget();
-    client.ChangeObject(kTarget, 0);
-    TellHealth(0.5);
-    TellEffect(48);
-    frame().SetFontSize(20);
-    client.ObjectSelected(0);
-    Advance(2s);
-    EXPECT_THAT(CallsOf("BeginRender"), IsEmpty());
-    EXPECT_THAT(CallsOf("HudViewCreate"), IsEmpty());
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // What the card says of each kind of thing.
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 
 #include "core/text.h"
@@ -8,10 +7,6 @@
 
 namespace ombrel::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 constexpr std::int32_t kMaximumDamage = 0x0D000022;
 constexpr std::int32_t kSpell = 0x0D000008;
@@ -237,9 +232,7 @@ void ReadProperties(std::string_view field, Map& map, Convert convert) {
 }
 
 TEST_F(TargetRows, TakeTheThingsOfTheGame) {
-    const std::string path = OMBREL_SOURCE_DIR "/../shared/data/world-objects.tsv";
-    const char* const elsewhere = std::getenv("OMBREL_DATA");
-    std::ifstream file(elsewhere ? std::string(elsewhere) + "/world-objects.tsv" : path);
+    std::ifstream file(GameData("world-objects.tsv"));
     if (!file) GTEST_SKIP() << "waits for real objects: set OMBREL_DATA to a folder with world-objects.tsv";
 
     std::string line;
@@ -261,7 +254,7 @@ TEST_F(TargetRows, TakeTheThingsOfTheGame) {
         client.ObjectSelected(id);
 
         const auto rows = canvas().Rows();
-        ASSERT_THAT(rows, testing::Not(IsEmpty()));
+        ASSERT_THAT(rows, Not(IsEmpty()));
         EXPECT_EQ(rows[0], fields[1]);
         EXPECT_LE(rows.size(), 6u);
         const auto skill = thing.Long.find(159);

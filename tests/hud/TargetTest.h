@@ -20,7 +20,7 @@ protected:
     static constexpr host::Id kTarget = 0x5DB00201;
 
     void SetUp() override {
-        client.LoadSpells(OMBREL_SOURCE_DIR "/resources/sim/spells.tsv");
+        client.LoadSpells(SpellTablePath());
         LogIn();
         canvas().frame.SetFontSize(16);
         canvas().frame.SetPos(5, 100, true);
@@ -46,19 +46,14 @@ protected:
     }
 
     // What the server tells.
-    void TellHealth(double ratio, host::Id id = kTarget) {
-        ServerSays(client, {{"Type", kEvent}, {"event", 0x1C0}, {"object", id}, {"health", ratio}});
-    }
+    void TellHealth(double ratio, host::Id id = kTarget) { ServerSays(client, HealthOf(id, ratio)); }
     void TellIdentity(std::int32_t health, std::int32_t maximum) {
-        Json identity = Identity(0x100, {});
-        identity["health"] = health;
-        identity["healthMax"] = maximum;
-        ServerSays(client, identity);
+        ServerSays(client, Identified(kTarget, 0x100, health, maximum));
     }
-    void TellSpells(const std::vector<std::int32_t>& spells) { ServerSays(client, Identity(0x10, spells)); }
-    void TellEffect(std::int32_t code, host::Id id = kTarget) {
-        ServerSays(client, {{"Type", kEffect}, {"object", id}, {"effect", code}, {"speed", 0.8}});
+    void TellSpells(const std::vector<std::int32_t>& spells) {
+        ServerSays(client, Identified(kTarget, 0x10, 0, 0, spells));
     }
+    void TellEffect(std::int32_t code, host::Id id = kTarget) { ServerSays(client, EffectOn(id, code)); }
 
     // What was drawn on the card's surface since the last look, its frame left out.
     std::vector<std::string> Drawn() {
@@ -82,14 +77,6 @@ protected:
     std::vector<std::string> DrawnImages() { return Ends("DrawPortalImage image="); }
 
 private:
-    static Json Identity(std::int32_t flags, const std::vector<std::int32_t>& spells) {
-        Json list = Json::array();
-        for (const std::int32_t spell : spells) list.push_back({{"spell", spell}});
-        return {{"Type", kEvent}, {"event", 0xC9},  {"object", kTarget},
-                {"success", 1},   {"flags", flags}, {"spellCount", spells.size()},
-                {"spells", list}};
-    }
-
     std::vector<std::string> Ends(std::string_view mark) {
         std::vector<std::string> ends;
         for (const std::string& call : Drawn()) {

@@ -2,8 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <string_view>
-
 #include "adapters/sim/Controls.h"
 #include "adapters/sim/View.h"
 #include "automation/EventQueue.h"
@@ -13,12 +11,6 @@
 
 namespace ombrel::test {
 namespace {
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 // In the order in which the service hears of them.
 constexpr const char* kHotkeys[][2] = {

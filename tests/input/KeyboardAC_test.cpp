@@ -10,10 +10,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
-
 constexpr std::int32_t kEnter = 13;
 
 class KeyboardACTest : public PluginTest {

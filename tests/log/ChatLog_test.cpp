@@ -1,7 +1,5 @@
 #include "apps/log/ChatLog.h"
 
-#include <gmock/gmock.h>
-
 #include <stdexcept>
 
 #include "apps/log/Search.h"
@@ -10,9 +8,6 @@
 
 namespace ombrel::log {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 TEST(ChatLogDate, IsKnownOnlyInTheFormOfTheLogs) {
     const std::pair<const char*, const char*> kDates[] = {
@@ -82,7 +77,7 @@ TEST_F(ChatLogTest, XmlLogsAreReadAsFarAsTheyGo) {
     EXPECT_THAT(Texts("cut.xml", whole.substr(0, whole.size() - 20)), ElementsAre("a <b>"));
     EXPECT_THAT(Texts("head.xml", whole.substr(0, 40)), ElementsAre());
     EXPECT_THAT(Texts("renamed.log", whole), ElementsAre("a <b>", "two"));
-    EXPECT_THAT(Texts("broken.xml", "<Log><Message>one</Message><Message>two</Wrong></Log>"), testing::Contains("one"));
+    EXPECT_THAT(Texts("broken.xml", "<Log><Message>one</Message><Message>two</Wrong></Log>"), Contains("one"));
 }
 
 TEST_F(ChatLogTest, WhatIsNoLogIsRefusedWithAReason) {

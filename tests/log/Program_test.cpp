@@ -1,19 +1,15 @@
 // The log reader as a program: its output, its pages, its exit statuses.
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <sys/wait.h>
 
 #include <cstdlib>
 
 #include "apps/log/Output.h"
+#include "tests/support/Matchers.h"
 #include "tests/support/TempFolder.h"
 
 namespace ombrel::log {
 namespace {
-
-using testing::HasSubstr;
-using testing::Not;
 
 class LogProgram : public testing::Test {
 protected:
@@ -79,7 +75,7 @@ TEST_F(LogProgram, WritesAPageThatStandsAlone) {
     EXPECT_EQ(Run("a.xml b.txt --html page.html"), 0);
     EXPECT_EQ(out_, "");
     const std::string page = folder_.Read("page.html");
-    EXPECT_THAT(page, testing::StartsWith("<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"UTF-8\">"));
+    EXPECT_THAT(page, StartsWith("<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"UTF-8\">"));
     EXPECT_THAT(page, HasSubstr("<li data-tag=\"2\" data-date=\"7/4/2024 1:05:09 PM\" style=\"color:#EBEB3A\">"
                                 "<time>7/4/2024 1:05:09 PM</time> "
                                 "<span>Tom tells you, &quot;&lt;b&gt; &amp; co&quot;</span></li>"));

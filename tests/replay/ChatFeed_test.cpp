@@ -1,13 +1,11 @@
 #include "adapters/sim/ChatFeed.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <sstream>
 #include <utility>
 #include <vector>
 
 #include "adapters/sim/SessionFormat.h"
+#include "tests/support/Matchers.h"
 
 namespace ombrel::sim {
 namespace {
@@ -35,7 +33,7 @@ TEST(ChatFeed, NamesTheLineThatIsWrong) {
             Fed(file);
             ADD_FAILURE() << file;
         } catch (const SessionError& error) {
-            EXPECT_THAT(error.what(), testing::StartsWith("chat.tsv:2: "));
+            EXPECT_THAT(error.what(), StartsWith("chat.tsv:2: "));
         }
     }
 }

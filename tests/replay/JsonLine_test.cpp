@@ -1,6 +1,6 @@
 #include "adapters/sim/JsonLine.h"
 
-#include <gtest/gtest.h>
+#include "tests/support/Matchers.h"
 
 namespace ombrel::sim {
 namespace {

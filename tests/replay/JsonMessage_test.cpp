@@ -1,8 +1,7 @@
 #include "adapters/sim/JsonMessage.h"
 
-#include <gtest/gtest.h>
-
 #include "core/failure.h"
+#include "tests/support/Matchers.h"
 
 namespace ombrel::sim {
 namespace {

@@ -1,32 +1,18 @@
 // The program itself: its options, its exit statuses, its streams.
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <sys/wait.h>
 
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <nlohmann/json.hpp>
-#include <sstream>
-#include <string>
-#include <vector>
 
 #include "adapters/sim/draw/Picture.h"
+#include "core/files.h"
 #include "tests/replay/Replay.h"
 
 namespace ombrel::sim {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::HasSubstr;
-using testing::MatchesRegex;
-using testing::Not;
-
-std::string ReadAll(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 class Program : public testing::Test {
 protected:
@@ -36,10 +22,12 @@ protected:
                                     "' && env -u CLICOLOR_FORCE TMPDIR=. '" OMBREL_REPLAY "' " + arguments +
                                     " >out 2>err";
         const int status = std::system(command.c_str());
-        out = ReadAll(folder.path / "out");
-        err = ReadAll(folder.path / "err");
+        out = Content("out");
+        err = Content("err");
         return WEXITSTATUS(status);
     }
+
+    std::string Content(const char* name) const { return ReadFile((folder.path / name).string()); }
 
     void Write(const char* name, const std::string& text) {
         std::ofstream(folder.path / name, std::ios::binary) << text;
@@ -56,11 +44,11 @@ protected:
     std::string out, err;
 };
 
-const std::string kExample = OMBREL_SOURCE_DIR "/tests/replay/cases/example.jsonl";
+const std::string kExample = test::SourceFolder() + "/tests/replay/cases/example.jsonl";
 
 TEST_F(Program, PlaysTheExampleOfTheFormat) {
     ASSERT_EQ(Run("--calls - " + kExample), 0) << err;
-    std::istringstream expected(ReadAll(OMBREL_SOURCE_DIR "/tests/replay/cases/example.expected.jsonl"));
+    std::istringstream expected(ReadFile(test::SourceFolder() + "/tests/replay/cases/example.expected.jsonl"));
     std::size_t position = 0;
     for (std::string line; std::getline(expected, line);) {
         const std::size_t found = out.find(line + "\n", position);
@@ -81,7 +69,7 @@ TEST_F(Program, TellsTheFileAndLineOfAWrongRecord) {
     Write("a.jsonl", "{\"note\": \"fine\"}\n\n{\"event\": \"Char_Jump\"}\n{\"note\": \"never\"}\n");
     EXPECT_EQ(Run("--calls calls.jsonl a.jsonl"), 2);
     EXPECT_EQ(err, "ombrel-replay: a.jsonl:3: unknown event \"Char_Jump\"\n");
-    EXPECT_EQ(ReadAll(folder.path / "calls.jsonl"), "{\"at\": 0.0, \"note\": \"fine\"}\n");
+    EXPECT_EQ(Content("calls.jsonl"), "{\"at\": 0.0, \"note\": \"fine\"}\n");
 
     Write("behind.jsonl", "{\"at\": 5, \"note\": \"a\"}\n{\"at\": 4, \"note\": \"b\"}\n");
     EXPECT_EQ(Run("--calls - - < behind.jsonl"), 2);
@@ -119,8 +107,8 @@ TEST_F(Program, DrawsTheEndOfASession) {
     const Picture picture = Picture::Read((folder.path / "huds.png").string());
     EXPECT_EQ(picture.width(), 400);
     EXPECT_EQ(picture.height(), 300);
-    EXPECT_NE(ReadAll(folder.path / "huds.png"), ReadAll(folder.path / "empty.png"));
-    EXPECT_EQ(ReadAll(folder.path / "huds.png"), ReadAll(folder.path / "end.png"));
+    EXPECT_NE(Content("huds.png"), Content("empty.png"));
+    EXPECT_EQ(Content("huds.png"), Content("end.png"));
 
     EXPECT_EQ(Run("--calls - --screenshot nowhere/huds.png area.jsonl"), 1);
     EXPECT_THAT(err, MatchesRegex("ombrel-replay: nowhere/huds.png: .*\n"));

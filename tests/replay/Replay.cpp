@@ -1,7 +1,8 @@
 #include "tests/replay/Replay.h"
 
-#include <gtest/gtest.h>
 #include <unistd.h>
+
+#include "core/files.h"
 
 namespace ombrel::sim {
 
@@ -17,7 +18,7 @@ ScratchFolder::ScratchFolder() {
 }
 
 Replay::Replay(std::string_view trace) : recorder(out, client.clock, *Trace::Parse(trace)), player(client, &recorder) {
-    const fs::path resources = OMBREL_SOURCE_DIR "/resources";
+    const fs::path resources = test::SourceFolder() + "/resources";
     const fs::path settings = "Ombrel/Settings/Ombrel_Settings.xml";
     fs::copy_file(resources / settings, folder.path / "common" / settings);
     client.system.documents = (folder.path / "documents").string();
@@ -32,6 +33,11 @@ void Replay::Play(std::string_view session) {
     std::istringstream input{std::string(session)};
     SessionReader reader(input, "session");
     while (const auto record = reader.Next()) player.Play(*record);
+}
+
+void Replay::PlayStory(const std::string& name) {
+    client.LoadSpells(test::SpellTablePath());
+    Play(ReadFile(test::SourceFolder() + "/sessions/" + name + ".jsonl"));
 }
 
 std::string Replay::ReasonOf(std::string_view record) {

@@ -9,6 +9,8 @@
 
 #include "adapters/sim/Client.h"
 #include "adapters/sim/SessionPlayer.h"
+#include "tests/support/Matchers.h"
+#include "tests/support/SourceFolder.h"
 
 namespace ombrel::sim {
 
@@ -30,6 +32,9 @@ public:
 
     // Plays the records of a session, one a line.
     void Play(std::string_view session);
+
+    // Plays a story of sessions/ with the simulated client's spells.
+    void PlayStory(const std::string& name);
 
     // The reason for which a record is wrong, or nothing.
     std::string ReasonOf(std::string_view record);

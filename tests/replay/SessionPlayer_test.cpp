@@ -1,8 +1,5 @@
 #include "adapters/sim/SessionPlayer.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <map>
 
@@ -11,12 +8,6 @@
 
 namespace ombrel::sim {
 namespace {
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
 
 TEST(SessionPlayer, StartsThePluginBeforeTheFirstEvent) {
     Replay replay("host");
@@ -259,7 +250,7 @@ TEST(Recorder, WritesTheKindsThatAreTraced) {
     chat.Play(R"({"event": "Char_LoginComplete"})");
     const auto output = chat.Output();
     EXPECT_THAT(output, Not(IsEmpty()));
-    EXPECT_THAT(output, testing::Each(HasSubstr("\"call\": \"ChatOut\"")));
+    EXPECT_THAT(output, Each(HasSubstr("\"call\": \"ChatOut\"")));
 
     EXPECT_FALSE(Trace::Parse("chat,weather"));
     EXPECT_FALSE(Trace::Parse(""));

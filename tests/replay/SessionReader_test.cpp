@@ -1,14 +1,11 @@
 #include "adapters/sim/SessionReader.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <sstream>
+
+#include "tests/support/Matchers.h"
 
 namespace ombrel::sim {
 namespace {
-
-using testing::HasSubstr;
 
 std::string ReasonOf(std::string_view line) {
     try {

@@ -1,8 +1,8 @@
 #include "adapters/sim/Transcript.h"
 
-#include <gtest/gtest.h>
-
 #include <sstream>
+
+#include "tests/support/Matchers.h"
 
 namespace ombrel::sim {
 namespace {

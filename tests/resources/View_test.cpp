@@ -2,12 +2,8 @@
 #include "adapters/sim/View.h"
 
 #include <fmt/format.h>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <string>
 #include <vector>
@@ -15,17 +11,16 @@
 #include "adapters/sim/Calls.h"
 #include "adapters/sim/FontMetrics.h"
 #include "config/ControlTable.h"
+#include "core/files.h"
+#include "tests/support/Matchers.h"
+#include "tests/support/SourceFolder.h"
 
 namespace ombrel::sim {
 namespace {
 
 using host::Rect;
-using testing::ElementsAreArray;
 
-std::string Description() {
-    std::ifstream file(OMBREL_SOURCE_DIR "/resources/Ombrel_View.xml", std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
+std::string Description() { return ReadFile(test::SourceFolder() + "/resources/Ombrel_View.xml"); }
 
 class ShippedView : public testing::Test {
 protected:
@@ -221,11 +216,11 @@ TEST_F(ShippedView, ChoicesOfChatHoldWhatTheRulesRead) {
     EXPECT_THAT(Data("Chat_Color_Window"), ElementsAreArray({"D", "B", "M", "1", "2", "3", "4"}));
     const auto types = Data("Chat_Custom_Type");
     EXPECT_EQ(types.front(), "All");
-    EXPECT_THAT(types, testing::IsSupersetOf({"OM", "0", "2", "3", "7", "18", "30"}));
+    EXPECT_THAT(types, IsSupersetOf({"OM", "0", "2", "3", "7", "18", "30"}));
     EXPECT_EQ(std::set<std::string>(types.begin(), types.end()).size(), types.size());
     for (const auto* name : {"Chat_Color_Sound", "Chat_Custom_Sound", "Util_cboVitalHealthSound",
                              "Util_cboVitalStaminaSound", "Util_cboVitalManaSound"})
-        EXPECT_THAT(Texts(name), testing::ElementsAre("None")) << name << ": sounds are added as they are found";
+        EXPECT_THAT(Texts(name), ElementsAre("None")) << name << ": sounds are added as they are found";
 }
 
 TEST_F(ShippedView, NoOptionBeginsEmpty) {

@@ -1,23 +1,14 @@
 // The example sessions of a day's play, and what comes of them.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+
+#include <fmt/format.h>
 
 #include <algorithm>
-#include <string>
-#include <vector>
 
 #include "core/files.h"
 #include "tests/replay/Replay.h"
 
 namespace ombrel::sim {
 namespace {
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::IsSupersetOf;
-using testing::Not;
 
 constexpr host::Id kSelf = 1342179857;
 constexpr host::Id kFirstThing = static_cast<host::Id>(0x80001000);
@@ -27,7 +18,7 @@ class Story {
 public:
     explicit Story(const std::string& name) : replay_("chat,item,vendor") {
         replay_.client.chat_listener = [this](const Client::ChatLine& line) { read.push_back(line.text); };
-        replay_.Play(ReadFile(OMBREL_SOURCE_DIR "/sessions/" + name + ".jsonl"));
+        replay_.PlayStory(name);
         replay_.client.chat_listener = nullptr;
         output_ = replay_.Output();
         EXPECT_FALSE(std::filesystem::exists(replay_.folder.path / "documents/Asheron's Call/Ombrel Errors.txt"));
@@ -186,6 +177,66 @@ TEST(Stories, ASaleEndsWithTheBurdenOrTheShop) {
     EXPECT_EQ(closed.Read("No vendor is open.  Please open a vendor window.").size(), 2U);
     EXPECT_EQ(closed.Read("No MMD Notes Found in Vendor!").size(), 1U);
     EXPECT_EQ(closed.Count("Trade Note (250,000)"), 2);
+}
+
+TEST(Stories, TheCardShowsWhatIsLookedAt) {
+    Replay replay("chat");
+    replay.PlayStory("target-card");
+
+    std::vector<Json> cards;
+    for (const std::string& line : replay.Output()) {
+        EXPECT_EQ(line.find("Error #"), std::string::npos) << line;
+        if (Json answer = Json::parse(line); answer.contains("rows")) cards.push_back(std::move(answer));
+    }
+    const auto rows = [&](std::size_t card) { return cards.at(card)["rows"].get<std::vector<std::string>>(); };
+    ASSERT_THAT(cards, SizeIs(8));
+    EXPECT_THAT(rows(0), ElementsAre("Silver Simi", "7,600p, 320bu, D, Sw 325", "22.1-34, 12 8 0.5, Wk 6, Tk 3",
+                                     "Lr 160, 900m"));
+    EXPECT_THAT(rows(1), ElementsAre("Gold Amuli Coat", "[Waiting for ID]"));
+    EXPECT_THAT(rows(2), ElementsAre("Gold Amuli Coat", "14,500p, 1,450bu, A B D, Lv 80", "AL 340, Wk 7, Tk 4",
+                                     "Lr 180, 412m", "Major Focus, Epic Quickness"));
+    EXPECT_THAT(rows(3), ElementsAre("4 Peppermint Pumpkin Pies", "140p, 300bu", "Stamina 45"));
+    EXPECT_THAT(rows(4), ElementsAre("Glenden Wood Portal", "Level 10-60 No Sum"));
+    EXPECT_THAT(rows(5), ElementsAre("Olthoi Soldier", "[Waiting for ID]"));
+    EXPECT_THAT(rows(6), ElementsAre("Olthoi Soldier", "215 / 215", "Level 60"));
+    EXPECT_THAT(rows(7), ElementsAre("Olthoi Soldier", "81 / 215", "Level 60"));
+
+    const Json soldier = cards.back()["object"];
+    const auto debuff = [&](int family, int spell, int remaining) {
+        return Json{{"object", soldier}, {"family", family}, {"spell", spell}, {"remaining", remaining}};
+    };
+    EXPECT_EQ(cards[5]["debuffs"], Json::array());
+    EXPECT_EQ(cards[7]["debuffs"], Json({debuff(106, 1065, 139), debuff(116, 2074, 174), debuff(114, 2164, 182)}));
+}
+
+TEST(Stories, BuffsThatRunOutAreToldInTimeAndTheQueueWaitsItsTurn) {
+    Replay replay("chat,item");
+    replay.PlayStory("buffs-running-out");
+
+    std::vector<std::string> told;
+    for (const std::string& line : replay.Output()) {
+        const auto record = Json::parse(line);
+        if (!record.contains("call")) continue;
+        const double at = record["at"];
+        const std::string call = record["call"];
+        if (call.starts_with("UseItem")) told.push_back(fmt::format("{:.1f} {} {}", at, call, record["id"].get<int>()));
+        const std::string text = record.value("text", "");
+        if (text.starts_with("<Ombrel>")) told.push_back(fmt::format("{:.1f} {}", at, text.substr(9, 34)));
+    }
+    EXPECT_THAT(told,
+                ElementsAre("0.0 Failed to find character's setting", "0.0 Plugin Loaded! Type /m help for co",
+                            "3.0 UseItem -2147479293",  // the benediction
+                            "9.0 Adding Tusker Spit Ale to the even", "9.0 Adding Hunter's Stock Amber to the",
+                            "9.2 Please enter peace mode to continu",  // the fight
+                            "14.2 UseItemOnTarget -2147479295", "16.6 UseItemOnTarget -2147479294",
+                            "1202.0 Your buffs will expire in 5 minute", "1322.0 Your buffs will expire in 3 minute",
+                            "1442.0 Your buffs will expire in 1 minute", "1696.0 Your beer spells are getting low!",
+                            "1700.0 Ready to keep em' coming!", "1701.0 Adding Tusker Spit Ale to the even",
+                            "1701.0 Adding Hunter's Stock Amber to the", "1701.2 UseItemOnTarget -2147479295",
+                            "1703.6 UseItemOnTarget -2147479294",
+                            "1704.0 Please enter peace mode to continu",  // busy with the second
+                            "1708.0 Adding Tusker Spit Ale to the even", "1708.0 Adding Hunter's Stock Amber to the",
+                            "1708.2 Please enter peace mode to continu", "1709.0 Event Queue Cleared"));
 }
 
 }  // namespace

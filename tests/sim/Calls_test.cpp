@@ -1,17 +1,14 @@
 #include "adapters/sim/Calls.h"
 
-#include <gmock/gmock.h>
-
 #include <set>
 #include <string>
 #include <vector>
 
 #include "core/failure.h"
+#include "tests/support/Matchers.h"
 
 namespace ombrel::sim {
 namespace {
-
-using testing::ElementsAre;
 
 TEST(Operations, GoByNameOrByObjectAndName) {
     const struct {

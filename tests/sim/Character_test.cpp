@@ -1,10 +1,9 @@
 #include "adapters/sim/Character.h"
 
-#include <gtest/gtest.h>
-
 #include <memory>
 
 #include "core/failure.h"
+#include "tests/support/Matchers.h"
 
 namespace ombrel::sim {
 namespace {
@@ -37,12 +36,7 @@ TEST_F(CharacterTest, EnchantmentsRunOutWithTheClock) {
     client.clock.Advance(1h);
     EXPECT_EQ(stats->EnchantmentCount(), 1);
     EXPECT_EQ(stats->Enchantment(0), (host::Enchantment{.SpellID = 157, .TimeRemaining = -1, .Family = 80}));
-}
-
-TEST_F(CharacterTest, AnEnchantmentBeyondTheLastIsAFailure) {
-    client.Enchant(2, 10, 1);
     EXPECT_THROW(stats->Enchantment(1), Failure);
-    EXPECT_THROW(stats->Enchantment(-1), Failure);
 }
 
 TEST_F(CharacterTest, SpellNumbersAreReadSigned) {
@@ -55,25 +49,6 @@ TEST_F(CharacterTest, SpellNumbersAreReadSigned) {
     stats->ChangeEnchantments = [&](std::int32_t, const host::Enchantment& enchantment) { told = enchantment.SpellID; };
     client.ChangeEnchantments(0, {.SpellID = 0x8003});
     EXPECT_EQ(told, -32765);
-}
-
-TEST_F(CharacterTest, WhatTheSheetLacksIsNothing) {
-    client.sheet.Augmentation[238] = 2;
-    std::int32_t count = 7;
-    EXPECT_TRUE(stats->Augmentation(238, count));
-    EXPECT_EQ(count, 2);
-    EXPECT_FALSE(stats->Augmentation(232, count));
-    EXPECT_EQ(stats->Vital(host::vital::kMana), 100);
-    EXPECT_EQ(stats->Vital(3), 0);
-    EXPECT_EQ(stats->Skill(21), 0);
-}
-
-TEST_F(CharacterTest, AVitalChangesBeforeItsEvent) {
-    std::int32_t seen = 0;
-    stats->ChangeVital = [&](std::int32_t, std::int32_t) { seen = stats->Stamina(); };
-    client.ChangeVital(host::vital::kStamina, 42);
-    EXPECT_EQ(seen, 42);
-    EXPECT_EQ(stats->Health(), 100);
 }
 
 }  // namespace

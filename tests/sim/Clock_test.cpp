@@ -1,20 +1,17 @@
 #include "adapters/sim/Clock.h"
 
-#include <gmock/gmock.h>
-
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "adapters/sim/Calls.h"
+#include "tests/support/Matchers.h"
 
 namespace ombrel::sim {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class ClockTest : public testing::Test {
 protected:
@@ -46,17 +43,6 @@ TEST_F(ClockTest, TimersOfOneMomentFireInTheOrderOfTheirLastStart) {
     clock.Advance(1s);
     EXPECT_THAT(fired, ElementsAre("second 500", "first 500", "second 1000", "first 1000"));
     EXPECT_THAT(clock.Running(), ElementsAre(second.get(), first.get()));
-}
-
-TEST_F(ClockTest, AStartOnARunningTimerBeginsItsWaitAnew) {
-    const auto timer = Timer("timer");
-    timer->Start(1000);
-    clock.Advance(900ms);
-    timer->Start(1000);
-    clock.Advance(900ms);
-    EXPECT_THAT(fired, IsEmpty());
-    clock.Advance(100ms);
-    EXPECT_THAT(fired, ElementsAre("timer 1900"));
 }
 
 TEST_F(ClockTest, ATimeoutMayStopRestartOrEndTimers) {
@@ -115,13 +101,6 @@ TEST_F(ClockTest, ATimerMayOutliveItsClock) {
     auto brief = std::make_unique<Clock>();
     SimTimer timer(*brief, calls, "timer");
     brief.reset();
-}
-
-TEST_F(ClockTest, ATimerWhoseStartFailsDoesNotRun) {
-    const auto timer = Timer("timer");
-    calls.Fail("Timer.Start"_op, 1, 5, "");
-    EXPECT_ANY_THROW(timer->Start(10));
-    EXPECT_FALSE(timer->Running());
 }
 
 }  // namespace

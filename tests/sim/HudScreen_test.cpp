@@ -1,13 +1,12 @@
 #include "adapters/sim/draw/HudScreen.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <limits>
 #include <optional>
 #include <string>
 
 #include "adapters/sim/FontMetrics.h"
+#include "tests/support/Matchers.h"
 
 namespace ombrel::sim {
 namespace {
@@ -86,16 +85,6 @@ TEST_F(HudScreenTest, ViewsShowWhereTheyStandWhileTheyAreEnabled) {
     EXPECT_EQ(Ink(), std::nullopt);
 }
 
-TEST_F(HudScreenTest, TheAreaMayLieAnywhereOnTheScreen) {
-    auto view = screen.CreateHUD({120, 140 + kBar, 130, 150 + kBar});
-    view->SetEnabled(true);
-    Fill(*view, {0, 0, 10, 10}, kRed);
-    const Picture picture = screen.Show({100, 100, 300, 250});
-    EXPECT_EQ(picture.width(), 200);
-    EXPECT_EQ(picture.height(), 150);
-    EXPECT_EQ(picture.At(20, 40), 0xFFFF0000u);
-}
-
 TEST_F(HudScreenTest, ColoursLetThroughWhatTheirAlphaSays) {
     auto view = Make(0, 0, kArea, kArea);
     Fill(*view, {10, 10, 20, 20}, static_cast<std::int32_t>(0x80000000));
@@ -118,15 +107,6 @@ TEST_F(HudScreenTest, NothingIsDrawnOutsideOfARendering) {
     view->EndRender();
     view->Fill({0, 0, 50, 50}, kRed);
     EXPECT_EQ(Ink(), std::nullopt);
-}
-
-TEST_F(HudScreenTest, ALostDeviceTakesWhatWasDrawn) {
-    auto view = Make(20, 30, 40, 10);
-    Fill(*view, {0, 0, 40, 10}, kRed);
-    screen.DeviceLost();
-    EXPECT_EQ(Ink(), std::nullopt);
-    Fill(*view, {0, 0, 40, 10}, kRed);
-    EXPECT_EQ(Ink(), (host::Rect{20, 30, 60, 40}));
 }
 
 // In every face that a player can choose; those that are missing here stretch to the width of the table.

@@ -1,6 +1,4 @@
 // What comes of the character's acts in a world that reacts.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
@@ -8,13 +6,10 @@
 #include "adapters/sim/Aftermath.h"
 #include "host/ACHooks.h"
 #include "host/World.h"
+#include "tests/support/Matchers.h"
 
 namespace ombrel::sim {
 namespace {
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr std::int32_t kStack = host::key::kStackCount;
 constexpr std::int32_t kFull = host::key::kStackMaximum;
@@ -256,17 +251,6 @@ TEST_F(Market, WhoWouldBreakDownUnderTheCoinSellsNothing) {
     EXPECT_EQ(Money(), 550) << "450 pyreals weigh 225, and 300 is the most";
 }
 
-TEST_F(Market, AClosedVendorForgetsItsLists) {
-    CarryStack(5, "Lead Pea", 2, 500);
-    hooks->VendorAddSell(5);
-    client.vendor.open = false;
-    hooks->VendorSellAll();
-    client.vendor.open = true;
-    hooks->VendorSellAll();
-    Advance(1s);
-    EXPECT_EQ(Stack(5), 2);
-}
-
 TEST_F(Reacting, TheDeadLoseSomethingComeBackAndMayFetchIt) {
     client.sheet.Level = 20;
     client.object(client.sheet.Character).Coordinates = host::Position{-33.84, 72.66};
@@ -305,15 +289,6 @@ TEST_F(Reacting, TheDeadLoseSomethingComeBackAndMayFetchIt) {
     Advance(5s);
     EXPECT_EQ(client.FindObject(corpse), nullptr);
     EXPECT_EQ(Money(), 11);
-}
-
-TEST_F(Reacting, ACorpseThatNobodyOpensDecaysAfterAnHourAtLeast) {
-    client.Death("You were killed.");
-    Advance(3599s);
-    EXPECT_THAT(told, ElementsAre("create Corpse of Bob"));
-    EXPECT_THAT(read, IsEmpty()) << "nothing to lose, and no map under ground";
-    Advance(10s);
-    EXPECT_EQ(told.size(), 2U);
 }
 
 TEST_F(Reacting, AnswersTakeTheirTurnAmongTheTimersAndAfterAHang) {

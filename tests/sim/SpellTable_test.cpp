@@ -1,7 +1,5 @@
 #include "adapters/sim/SpellTable.h"
 
-#include <gmock/gmock.h>
-
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -10,11 +8,10 @@
 
 #include "adapters/sim/Client.h"
 #include "core/failure.h"
+#include "tests/support/Matchers.h"
 
 namespace ombrel::sim {
 namespace {
-
-using testing::HasSubstr;
 
 class SpellTableTest : public testing::Test {
 protected:
@@ -59,19 +56,6 @@ TEST_F(SpellTableTest, ColumnsGoByTheirNamesInAnyOrder) {
     EXPECT_EQ(spells->ByName("Portal Sending")->ID(), 9);
     EXPECT_EQ(spells->ByName("fire"), nullptr);
     EXPECT_EQ(spells->ByID(-32766), nullptr);
-}
-
-TEST_F(SpellTableTest, ARowThatIsPutReplacesTheOldOne) {
-    SpellTable table = SpellTable::Load(File("ID\tName\tDiff\n1\tOld\t5\n2\tOld\t6\n"));
-    const SpellRowPtr old = table.ByName("Old");
-    SpellRow row;
-    row.ID = 1;
-    row.Name = "New";
-    table.Put(row);
-    EXPECT_EQ(old->Diff, 5);
-    EXPECT_EQ(table.ByName("Old")->ID, 2);
-    EXPECT_EQ(table.ByName("New")->Diff, 0);
-    EXPECT_EQ(table.size(), 2u);
 }
 
 TEST_F(SpellTableTest, ATableThatCannotBeReadSaysWhy) {

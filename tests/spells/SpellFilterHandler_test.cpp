@@ -11,10 +11,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-
 constexpr std::string_view kHead =
     "ID|Name|Description|Diff|Icon|School|Type|Duration|Effect|EffectOnCaster|EffectOnTarget|Speed|Version|Flags|"
     "SortOrder|TargetMask|ComponentCount|ManaCost|RangeBase|RangeModifier|Researchable";
@@ -53,9 +49,8 @@ TEST_F(SpellFilterHandlerTest, AnUnknownSpellHasAnswersOfItsOwn) {
     EXPECT_FALSE(table().IsADebuff(99999));
     table().SpellInfo(99999);
     EXPECT_THAT(lines, IsEmpty());
-}
 
-TEST_F(SpellFilterHandlerTest, NamesGetPlainApostrophesButInTheExport) {
+    // Names get plain apostrophes but in the export.
     EXPECT_EQ(table().GetName(spell::kBenediction), "Asheron's Benediction");
     EXPECT_EQ(table().GetID("Asheron's Benediction"), -1);
     table().SpellInfo(spell::kBenediction);
@@ -112,7 +107,7 @@ TEST_F(SpellFilterHandlerTest, TheExportHasARowForEverySpellUpTo5000) {
 
     Forget();
     table().SpellInfo(5001);
-    EXPECT_THAT(Texts(), ElementsAre(testing::StartsWith("5001|Beyond|")));
+    EXPECT_THAT(Texts(), ElementsAre(StartsWith("5001|Beyond|")));
 }
 
 TEST_F(SpellFilterHandlerTest, ALookUpThatFailsIsReportedUnderItsOwnName) {
@@ -178,8 +173,7 @@ TEST_F(SpellFilterHandlerTest, TheShippedTableHasEverySpellThatIsAskedFor) {
 }
 
 TEST_F(SpellFilterHandlerTest, TheGamesWholeTableIsReadLookedUpAndExported) {
-    const char* const elsewhere = std::getenv("OMBREL_DATA");
-    const std::string file = (elsewhere ? elsewhere : std::string(OMBREL_SOURCE_DIR "/../shared/data")) + "/spells.tsv";
+    const std::string file = GameData("spells.tsv");
     if (!std::filesystem::exists(file))
         GTEST_SKIP() << "waits for the game's spell table: set OMBREL_DATA to a folder with spells.tsv";
     client.LoadSpells(file);

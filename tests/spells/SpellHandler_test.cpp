@@ -8,11 +8,6 @@
 namespace ombrel::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::Pair;
-using testing::UnorderedElementsAre;
-
 class SpellHandlerTest : public SpellTest {
 protected:
     std::uint64_t Builds() const { return client.calls.Count(sim::FindOperation("EnchantmentCount").value()); }
@@ -75,14 +70,6 @@ TEST_F(SpellHandlerTest, AFamilyShowsItsStrongestAndOfEqualsTheLongest) {
     }
 }
 
-TEST_F(SpellHandlerTest, AnUnknownSpellIsShownWithItsNumber) {
-    Cast(60000, 301);  // read as a signed number of 16 bits, it is a cooldown
-    Cast(30000, 301);
-    Advance(1s);
-    EXPECT_THAT(Buffs(), ElementsAre("Unknown 30000 05:00"));
-    EXPECT_EQ(std::get<std::int32_t>(options().BuffList->Data(0, 0, 1)), 0x060011F8);
-}
-
 TEST_F(SpellHandlerTest, TheListsKeepWhereThePlayerHasScrolledThem) {
     for (const std::int32_t id : {2, 24, 1421, 3, 25}) Cast(id, 300);
     Advance(1s);
@@ -93,21 +80,25 @@ TEST_F(SpellHandlerTest, TheListsKeepWhereThePlayerHasScrolledThem) {
     EXPECT_EQ(options().DebuffList->ScrollPosition(), 1);
 }
 
-TEST_F(SpellHandlerTest, TheDeveloperDisplayTellsIdAndFamily) {
+TEST_F(SpellHandlerTest, AnUnknownSpellAndTheDevelopersShowTheirNumbers) {
+    Cast(60000, 301);  // read as a signed number of 16 bits, it is a cooldown
+    Cast(30000, 301);
+    Advance(1s);
+    EXPECT_THAT(Buffs(), ElementsAre("Unknown 30000 05:00"));
+    EXPECT_EQ(std::get<std::int32_t>(options().BuffList->Data(0, 0, 1)), 0x060011F8);
+    client.enchantments.clear();
+    Cast(spell::kWeaknessVI, 201);
+    Cast(spell::kImperilVI, 501);
+    Advance(1s);
+    EXPECT_EQ(spells().NextSpell, "Imperil Other VI") << "with debuffs alone the last one";
+    EXPECT_EQ(Tracked(), "N/A");
+    Drop(spell::kWeaknessVI);
     Cast(spell::kStrengthVI, 301);
     Cast(spell::kImperilVI, 301);
     filter().DevMode = true;
     Advance(1s);
     EXPECT_THAT(Buffs(), ElementsAre("1332 1 Strength Self VI 05:00"));
     EXPECT_THAT(Debuffs(), ElementsAre("Imperil Other VI 05:00"));
-}
-
-TEST_F(SpellHandlerTest, WithDebuffsAloneTheLastOneIsNext) {
-    Cast(spell::kImperilVI, 301);
-    Cast(spell::kWeaknessVI, 201);
-    Advance(1s);
-    EXPECT_EQ(spells().NextSpell, "Imperil Other VI");
-    EXPECT_EQ(Tracked(), "N/A");
 }
 
 TEST_F(SpellHandlerTest, ThePlayerTracksASpellByNameOrFamilyWithAnOffset) {
@@ -294,8 +285,8 @@ TEST_F(SpellHandlerTest, DebugLinesTellOfBuildsAndCooldowns) {
     client.ChangeEnchantments(0, {});
     Advance(1s);
     Vars::DebugMode = false;
-    EXPECT_THAT(Texts(), testing::Contains("<Ombrel-Debug> Build Spell List"));
-    EXPECT_THAT(Texts(), testing::Contains("<Ombrel-Debug> Adding Cooldown Timer: z.SpellID"));
+    EXPECT_THAT(Texts(), Contains("<Ombrel-Debug> Build Spell List"));
+    EXPECT_THAT(Texts(), Contains("<Ombrel-Debug> Adding Cooldown Timer: z.SpellID"));
     ASSERT_EQ(spells().CooldownTimers.size(), 1u);
     EXPECT_EQ(spells().CooldownTimers.begin()->first, spell::kBenedictionCooldown);
     client.enchantments.clear();

@@ -27,7 +27,7 @@ constexpr std::int32_t kBenedictionCooldown = -32766, kFavorCooldown = -32765;
 class SpellTest : public PluginTest {
 protected:
     void SetUp() override {
-        client.LoadSpells(OMBREL_SOURCE_DIR "/resources/sim/spells.tsv");
+        client.LoadSpells(SpellTablePath());
         LogIn();
         Vars::ChatTextHandler->SetTargetList(0, 32, true);  // our own lines to the main window
         Forget();

@@ -16,17 +16,13 @@
 namespace ombrel::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
-
 constexpr host::Id kDrudge = 0xDB000201 - 0x100000000;
 constexpr host::Id kOlthoi = 0xDB000202 - 0x100000000;
 
 class NetEchoHandlerTest : public PluginTest {
 protected:
     void SetUp() override {
-        client.LoadSpells(OMBREL_SOURCE_DIR "/resources/sim/spells.tsv");
+        client.LoadSpells(SpellTablePath());
         LogIn();
         for (const host::Id id : {kDrudge, kOlthoi}) {
             client.object(id).Name = "Creature";
@@ -39,15 +35,6 @@ protected:
     static Statistics& stats() { return *Vars::Statistics; }
 
     void Server(const Json& message) { ServerSays(client, message); }
-
-    static Json Identified(host::Id id, int flags, int health, int maximum) {
-        return {{"Type", kEvent}, {"event", 0xC9},    {"success", 1},         {"object", id},
-                {"flags", flags}, {"health", health}, {"healthMax", maximum}, {"spellCount", 0}};
-    }
-
-    static Json Health(host::Id id, double ratio) {
-        return {{"Type", kEvent}, {"event", 0x1C0}, {"object", id}, {"health", ratio}};
-    }
 
     // Current health, its maximum and the ratio, as "18 of 36, 0.5".
     static std::string Target() {
@@ -72,10 +59,12 @@ TEST_F(NetEchoHandlerTest, EightBytesMakeANumberLowByteFirst) {
 }
 
 TEST_F(NetEchoHandlerTest, APairOfTotalsIsOneChangeInEitherOrder) {
+    for (const int other : {0, 3, 6, 7, -1}) Server(Quality(other, 40));
+    EXPECT_FALSE(echo().TotalSeen || echo().UnassignedSeen);
     Server(Quality(kTotalXP, 8500));
     EXPECT_EQ(stats().CharTotalXP, 0);
     EXPECT_TRUE(echo().TotalSeen);
-    Server(Json{{"Type", kEffect}, {"object", 5}, {"effect", 44}, {"speed", 0.8}});
+    Server(EffectOn(5, 44));
     Advance(2s);
     Server(Quality(kUnassignedXP, 8400));
     EXPECT_EQ(stats().CharTotalXP, 8500);
@@ -111,13 +100,6 @@ TEST_F(NetEchoHandlerTest, AFallOfUnassignedExperienceIsAChangeByItself) {
     EXPECT_THAT(Texts(), IsEmpty()) << "nothing of this is told";
 }
 
-TEST_F(NetEchoHandlerTest, OtherQualitiesChangeNothing) {
-    for (const int key : {0, 3, 6, 7, -1}) Server(Quality(key, 40));
-    EXPECT_EQ(echo().TotalXP, 0);
-    EXPECT_EQ(echo().UnassignedXP, 0);
-    EXPECT_FALSE(echo().TotalSeen || echo().UnassignedSeen);
-}
-
 TEST_F(NetEchoHandlerTest, TheSnapshotAtLoginBringsTotalsAndCallsNothing) {
     Server(LoginSnapshot(1'200'000'000, 1'234'567));
     EXPECT_EQ(echo().TotalXP, 1'200'000'000);
@@ -136,7 +118,7 @@ TEST_F(NetEchoHandlerTest, TheSnapshotAtLoginBringsTotalsAndCallsNothing) {
 }
 
 TEST_F(NetEchoHandlerTest, TheLastKillIsRememberedWordForWord) {
-    Server(Json{{"Type", kEvent}, {"event", 0x1AD}, {"text", "You split Drudge Prowler apart!"}});
+    Server(KillText("You split Drudge Prowler apart!"));
     Server(Json{{"Type", kEvent}, {"event", 0x1AC}, {"text", "You are fatally punctured by Olthoi Soldier!"}});
     EXPECT_EQ(Vars::LastKillText, "You split Drudge Prowler apart!");
     client.ChatText("You split Drudge Prowler apart!\n", 0, 1);
@@ -150,7 +132,7 @@ TEST_F(NetEchoHandlerTest, EveryKillLineOfTheGameCounts) {
     std::int32_t kills = 0;
     for (const GameLine& line : game_lines) {
         if (line.note.find("the same text comes in event 0x1AD") == std::string::npos) continue;
-        Server(Json{{"Type", kEvent}, {"event", 0x1AD}, {"text", line.text}});
+        Server(KillText(line.text));
         client.ChatText(line.text + "\n", line.type, 1);
         client.ChatText("Bob says, \"gratz\"\n", 2, 1);
         EXPECT_EQ(stats().Kills, ++kills) << line.text;
@@ -162,17 +144,17 @@ TEST_F(NetEchoHandlerTest, EveryKillLineOfTheGameCounts) {
 TEST_F(NetEchoHandlerTest, TheTargetsHealthFollowsItsIdentification) {
     client.ObjectSelected(kDrudge);
     EXPECT_EQ(Target(), "0 of 0, 1");
-    Server(Health(kDrudge, 0.75));
+    Server(HealthOf(kDrudge, 0.75));
     EXPECT_EQ(Target(), "0 of 0, 0.75") << "without a maximum";
     Server(Identified(kDrudge, 0x100, 36, 36));
     EXPECT_EQ(Target(), "36 of 36, 1");
-    Server(Health(kDrudge, 0.5));
+    Server(HealthOf(kDrudge, 0.5));
     EXPECT_EQ(Target(), "18 of 36, 0.5");
-    Server(Health(kDrudge, 0.375));
+    Server(HealthOf(kDrudge, 0.375));
     EXPECT_EQ(Target(), "14 of 36, 0.375") << "13.5 goes to the even number";
-    Server(Health(kDrudge, 0.125));
+    Server(HealthOf(kDrudge, 0.125));
     EXPECT_EQ(Target(), "4 of 36, 0.125") << "4.5 too";
-    Server(Health(kDrudge, 0.0));
+    Server(HealthOf(kDrudge, 0.0));
     EXPECT_EQ(Target(), "0 of 36, 0");
     Server(Identified(kDrudge, 0x100, 560, 540));
     EXPECT_EQ(Target(), "560 of 540, 1");
@@ -183,14 +165,14 @@ TEST_F(NetEchoHandlerTest, TheTargetsHealthFollowsItsIdentification) {
 
 TEST_F(NetEchoHandlerTest, WhatIsNotAboutTheTargetChangesNothing) {
     Server(Identified(kDrudge, 0x100, 20, 36));
-    Server(Health(kDrudge, 0.5));
+    Server(HealthOf(kDrudge, 0.5));
     EXPECT_EQ(Target(), "0 of 0, 1") << "nothing is selected";
 
     client.ObjectSelected(kDrudge);
     Server(Identified(kDrudge, 0x100, 30, 36));
     const std::string before = Target();
     Server(Identified(kOlthoi, 0x100, 215, 215));
-    Server(Health(kOlthoi, 0.1));
+    Server(HealthOf(kOlthoi, 0.1));
     Json failed = Identified(kDrudge, 0x100, 5, 36);
     for (const int success : {0, 2, -1}) {
         failed["success"] = success;
@@ -203,9 +185,7 @@ TEST_F(NetEchoHandlerTest, WhatIsNotAboutTheTargetChangesNothing) {
 
 TEST_F(NetEchoHandlerTest, TheTargetsSpellsAreNamed) {
     client.ObjectSelected(kDrudge);
-    Json item = Identified(kDrudge, 0x95, 0, 0);
-    item["spellCount"] = 3;
-    item["spells"] = {{{"spell", 2108}}, {{"spell", 2581}}, {{"spell", 0x800005CE - 0x100000000}}};
+    const Json item = Identified(kDrudge, 0x95, 0, 0, {2108, 2581, static_cast<std::int32_t>(0x800005CE)});
     Server(item);
     EXPECT_EQ(echo().TargetSpells, "Brogard's Defiance;Minor Focus;Unknown -2147482162;");
     Server(Identified(kDrudge, 0x100, 1, 1));
@@ -215,18 +195,9 @@ TEST_F(NetEchoHandlerTest, TheTargetsSpellsAreNamed) {
     EXPECT_EQ(echo().TargetSpells, "");
 }
 
-TEST_F(NetEchoHandlerTest, AnIdentificationDrawsTheTargetAnew) {
-    client.ObjectSelected(kDrudge);
-    for (const Json& message : {Identified(kDrudge, 0x100, 30, 36), Identified(kDrudge, 0, 0, 0)}) {
-        Forget();
-        Server(message);
-        EXPECT_THAT(calls, testing::Contains(testing::HasSubstr("BeginRender"))) << message;
-    }
-}
-
 TEST_F(NetEchoHandlerTest, NoMaximumIsReportedAndKeepsTheRatio) {
     client.ObjectSelected(kDrudge);
-    Server(Health(kDrudge, 0.5));
+    Server(HealthOf(kDrudge, 0.5));
     Server(Identified(kDrudge, 0x100, 10, 0));
     EXPECT_EQ(Target(), "10 of 0, 0.5");
     EXPECT_THAT(TakeReports(), ElementsAre("Error #11 occured in 'NetEcho_EchoMessage' of class 'NetEchoHandler'"));
@@ -262,15 +233,9 @@ TEST_F(NetEchoHandlerTest, OtherMessagesAreNotLookedInto) {
 // Every field that a message needs, taken out of it.
 TEST_F(NetEchoHandlerTest, AFieldThatIsMissingIsReportedAndLeavesWhatWas) {
     client.ObjectSelected(kDrudge);
-    Json item = Identified(kDrudge, 0x100, 20, 36);
-    item["spellCount"] = 1;
-    item["spells"] = {{{"spell", 2108}}};
-    const Json messages[] = {Quality(kTotalXP, 5),
-                             Quality(kUnassignedXP, 5),
-                             Json{{"Type", kEffect}, {"object", 5}, {"effect", 44}, {"speed", 0.8}},
-                             Json{{"Type", kEvent}, {"event", 0x1AD}, {"text", "You flatten it!"}},
-                             Health(kDrudge, 0.5),
-                             item};
+    Json item = Identified(kDrudge, 0x100, 20, 36, {2108});
+    const Json messages[] = {Quality(kTotalXP, 5),        Quality(kUnassignedXP, 5), EffectOn(5, 44),
+                             KillText("You flatten it!"), HealthOf(kDrudge, 0.5),    item};
     for (const Json& message : messages) {
         for (const auto& [field, value] : message.items()) {
             if (field == "Type" || field.starts_with("spell")) continue;
@@ -301,9 +266,9 @@ TEST_F(NetEchoHandlerTest, WithoutTheEchoThePlayerIsToldAndPlaysOn) {
     GameSession::client.Terminate();
     client.missing_services = {"EchoFilter2"};
     client.Start();
-    EXPECT_THAT(TakeReports(), ElementsAre(testing::HasSubstr("'Class_Initialize' of class 'NetEchoHandler'")));
+    EXPECT_THAT(TakeReports(), ElementsAre(HasSubstr("'Class_Initialize' of class 'NetEchoHandler'")));
     client.LoginComplete();
-    EXPECT_THAT(Texts(), testing::Contains(testing::HasSubstr("echo filter is missing")).Times(1));
+    EXPECT_THAT(Texts(), Contains(HasSubstr("echo filter is missing")).Times(1));
     EXPECT_THAT(TakeReports(), IsEmpty());
 }
 
@@ -362,6 +327,12 @@ TEST_F(ChatWindows, EachBitOfAFilterShowsItsKindOfChat) {
 }
 
 TEST_F(ChatWindows, EachWindowHasAFilterOfItsOwn) {
+    const Json whole = WindowOptions({0, 0, 0x00600040});
+    Json beside = OptionsChanged({{"flags", 0x340}});
+    for (const char* const field : {"optionPropertyCount", "optionProperties"}) beside[field] = whole[field];
+    ClientSays(client, beside);
+    EXPECT_EQ(AllShown(), (std::vector<Types>{{}, {}, {6, 21, 22}, {}, {}})) << "beside the options, not in them";
+
     Change(WindowOptions({0x7BF8FFFF, 0x0000101C, 0x00040C00, 0x00080000, 0x78000000}));
     EXPECT_EQ(AllShown(), defaults);
     Change(WindowOptions({0, 0xFFFFFFFF}));
@@ -398,14 +369,6 @@ TEST_F(ChatWindows, WithoutWindowsTheClientsDefaultsStand) {
         Change(each);
         EXPECT_EQ(AllShown(), defaults) << each;
     }
-}
-
-TEST_F(ChatWindows, TheSetUpMayStandBesideTheOptions) {
-    const Json whole = WindowOptions({0, 0, 0x00600040});
-    Json message = OptionsChanged({{"flags", 0x340}});
-    for (const char* const field : {"optionPropertyCount", "optionProperties"}) message[field] = whole[field];
-    ClientSays(client, message);
-    EXPECT_EQ(AllShown(), (std::vector<Types>{{}, {}, {6, 21, 22}, {}, {}}));
 }
 
 TEST_F(ChatWindows, ASixthWindowIsReportedAndTheFiveStand) {

@@ -1,15 +1,14 @@
 #include "tests/support/GameLines.h"
 
-#include <cstdlib>
 #include <fstream>
 
 #include "core/text.h"
+#include "tests/support/SourceFolder.h"
 
 namespace ombrel::test {
 
 std::vector<GameLine> GameLines() {
-    const char* const folder = std::getenv("OMBREL_DATA");
-    std::ifstream file(std::string(folder ? folder : OMBREL_SOURCE_DIR "/../shared/data") + "/chat-lines.tsv");
+    std::ifstream file(GameData("chat-lines.tsv"));
     std::vector<GameLine> lines;
     std::string row;
     std::getline(file, row);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "adapters/sim/Client.h"
@@ -27,6 +28,26 @@ inline Json Qword(std::uint64_t value) {
 
 inline Json Quality(std::int32_t key, std::uint64_t value) {
     return {{"Type", kQuality}, {"key", key}, {"value", Qword(value)}};
+}
+
+inline Json EffectOn(host::Id id, std::int32_t code) {
+    return {{"Type", kEffect}, {"object", id}, {"effect", code}, {"speed", 0.8}};
+}
+
+inline Json HealthOf(host::Id id, double ratio) {
+    return {{"Type", kEvent}, {"event", 0x1C0}, {"object", id}, {"health", ratio}};
+}
+
+inline Json KillText(const std::string& text) { return {{"Type", kEvent}, {"event", 0x1AD}, {"text", text}}; }
+
+// What the server tells of a thing that it was asked about: its health with flag 0x100, its spells with 0x10.
+inline Json Identified(host::Id id, std::int32_t flags, std::int32_t health = 0, std::int32_t maximum = 0,
+                       const std::vector<std::int32_t>& spells = {}) {
+    Json list = Json::array();
+    for (const std::int32_t spell : spells) list.push_back({{"spell", spell}});
+    return {{"Type", kEvent}, {"event", 0xC9},    {"success", 1},         {"object", id},
+            {"flags", flags}, {"health", health}, {"healthMax", maximum}, {"spellCount", spells.size()},
+            {"spells", list}};
 }
 
 // What the client sends when the player changes its options.

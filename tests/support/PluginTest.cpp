@@ -15,7 +15,7 @@ namespace ombrel::test {
 
 namespace {
 
-constexpr const char* kResources = OMBREL_SOURCE_DIR "/resources";
+const std::string kResources = SourceFolder() + "/resources";
 constexpr std::string_view kErrorLog = "Asheron's Call/Ombrel Errors.txt";
 
 std::string Printed(const sim::Value& value) {

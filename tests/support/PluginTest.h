@@ -11,9 +11,6 @@
 // reports a failure must expect it with TakeReports(): one that nobody asked for fails the test.
 #pragma once
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <chrono>
 #include <cstdint>
 #include <initializer_list>
@@ -26,6 +23,8 @@
 #include "config/ControlHandler.h"
 #include "core/FilterHandler.h"
 #include "core/Vars.h"
+#include "tests/support/Matchers.h"
+#include "tests/support/SourceFolder.h"
 #include "tests/support/TempFolder.h"
 
 namespace ombrel::test {
