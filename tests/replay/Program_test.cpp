@@ -3,6 +3,7 @@
 #include <sys/wait.h>
 
 #include <cstdlib>
+#include <fstream>
 #include <nlohmann/json.hpp>
 
 #include "adapters/sim/draw/Picture.h"
