@@ -468,5 +468,15 @@ TEST_F(SettingsTest, AKillOrAFullDiskAtAnyMomentLeavesAWholeFile) {
     EXPECT_EQ(Value("Exp", "filterthreshold"), "6");
 }
 
+TEST_F(SettingsTest, DebugLinesTellOfEachLoadAndSave) {
+    Vars::DebugMode = true;
+    Load(Document("<Location x=\"1\" y=\"2\"/>"));
+    Vars::DebugMode = false;
+    const std::string log = documents.Read("Asheron's Call/Ombrel Debug.txt");
+    EXPECT_THAT(log, HasSubstr(" - Settings Load with action 0"));
+    EXPECT_THAT(log, HasSubstr(" - 2, 1, 231, 262"));
+    EXPECT_THAT(log, HasSubstr(" - Settings Save with action 0, settings state 2"));
+}
+
 }  // namespace
 }  // namespace ombrel::test

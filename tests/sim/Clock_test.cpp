@@ -103,5 +103,12 @@ TEST_F(ClockTest, ATimerMayOutliveItsClock) {
     brief.reset();
 }
 
+TEST_F(ClockTest, ATimerWhoseStartFailsDoesNotRun) {
+    const auto timer = Timer("timer");
+    calls.Fail("Timer.Start"_op, 1, 5, "");
+    EXPECT_ANY_THROW(timer->Start(10));
+    EXPECT_FALSE(timer->Running());
+}
+
 }  // namespace
 }  // namespace ombrel::sim
