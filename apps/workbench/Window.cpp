@@ -65,6 +65,7 @@ Window::Window(const std::string& title, int width, int height) {
     IMGUI_CHECKVERSION();
     ImGui::CreateContext();
     ImGui::GetIO().IniFilename = nullptr;
+    ImGui::GetIO().ConfigInputTextCursorBlink = false;  // nothing is drawn for it
     ImGui_ImplSDL2_InitForOpenGL(window_.get(), context_);
     ImGui_ImplOpenGL3_Init(kShaders);
 }

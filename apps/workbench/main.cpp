@@ -25,7 +25,7 @@ using Moment = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 constexpr milliseconds kTick(50);    // how often the game's clock is looked at
-constexpr milliseconds kBlink(500);  // how often the picture is drawn although nothing happens: the clock above it
+constexpr milliseconds kBeat(1000);  // how often the picture is drawn although nothing happens: the clock above it
 
 constexpr const char* kDefaultSettings = "Ombrel/Settings/Ombrel_Settings.xml";
 
@@ -108,7 +108,7 @@ void Live(Window& window, Game& game, Workbench& workbench, const Options& optio
         const Moment::time_point now = Moment::now();
         game.Pass(now - passed);
         passed = now;
-        if (window.stirred() || game.changes() != changes || now - drawn >= kBlink || options.frame_times) {
+        if (window.stirred() || game.changes() != changes || now - drawn >= kBeat || options.frame_times) {
             changes = game.changes();
             drawn = now;
             window.Draw([&workbench] { workbench.Draw(); });
