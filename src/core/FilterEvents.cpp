@@ -119,8 +119,6 @@ bool TargetIs(host::Id id) {
     return Vars::HUDTargetHandler->GetObject(target) && target && target->GUID() == id;
 }
 
-}  // namespace
-
 // What of the framework's is not there, told once: the reports of the start find no chat yet.
 void TellMissing() {
     if (!Vars::SpellFilterHandler->HasTable())
@@ -129,6 +127,8 @@ void TellMissing() {
         wtcw_error("The framework's echo filter is missing: nobody counts experience or follows the chat windows.");
     if (Vars::HudFailed) wtcw_error("The framework's render service is missing or at fault: the displays stay off.");
 }
+
+}  // namespace
 
 // The order is a requirement: each step uses what the ones before it have brought.
 void FilterHandler::Char_LoginComplete() try {

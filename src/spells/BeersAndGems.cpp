@@ -7,7 +7,6 @@
 #include "core/Vars.h"
 #include "core/convert.h"
 #include "core/failure.h"
-#include "spells/SpellFilterHandler.h"
 #include "spells/SpellHandler.h"
 #include "spells/Tables.h"
 
